@@ -94,9 +94,9 @@ private:
     T m_limit, m_index;
 };
 
-extern template class tqRangeException<float>;
-extern template class tqRangeException<double>;
-extern template class tqIdxRangeException<std::uint64_t>;
+extern template class TQ_EXPORT tqRangeException<float>;
+extern template class TQ_EXPORT tqRangeException<double>;
+extern template class TQ_EXPORT tqIdxRangeException<std::uint64_t>;
 
 /// Builds and throws the library's failure: tag, ": ", text, code 0. The text stands at the call site.
 [[noreturn]] TQ_EXPORT void ThrowFailure(const tqstring& tag, const tqstring& text);

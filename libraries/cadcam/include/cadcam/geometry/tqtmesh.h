@@ -75,9 +75,9 @@ public:
     ~tqTMesh() override;
 };
 
-extern template class tqContainerMesh<double, tqTPoint3d<double>, tqTPoint3d<double>>;
-extern template class tqContainerMesh<float, tqTPoint3d<float>, tqTPoint3d<float>>;
-extern template class tqTMesh<double>;
-extern template class tqTMesh<float>;
+extern template class TQ_EXPORT tqContainerMesh<double, tqTPoint3d<double>, tqTPoint3d<double>>;
+extern template class TQ_EXPORT tqContainerMesh<float, tqTPoint3d<float>, tqTPoint3d<float>>;
+extern template class TQ_EXPORT tqTMesh<double>;
+extern template class TQ_EXPORT tqTMesh<float>;
 
 }  // namespace cadcam
