@@ -1,0 +1,50 @@
+// tqMathException: the ten prefixes, the detail after them, and the exception's clone and rethrow.
+#include "cadcam/geometry/tqmathexception.h"
+
+#include "support/tqtest.h"
+
+using cadcam::tqMathException;
+
+TEST(TqMathException, EachTypeChoosesItsPrefixAndTheDetailFollows) {
+    const struct {
+        tqMathException::Type type;
+        const char* prefix;
+    } cases[] = {
+        {tqMathException::DivisionByZero, "Division by zero: "},
+        {tqMathException::MatrixNotSquare, "Matrix not square: "},
+        {tqMathException::IncompatibleVectors, "Incompatible vectors: "},
+        {tqMathException::IncompatibleMatrices, "Incompatible matrices: "},
+        {tqMathException::MatrixVectorIncompatible, "Matrix and vector are incompatible: "},
+        {tqMathException::InvalidMatrixParameters, "Matrix creation parameters are invalid: "},
+        {tqMathException::InvalidVectorParameters, "Vector creation parameters are invalid: "},
+        {tqMathException::ZeroDeterminant, "Determinant is zero, cannot find matrix inverse: "},
+        {tqMathException::IncompatibleMatrixPair, "Incompatible pair of matrices for this operation: "},
+        {tqMathException::Undefined, "Undefined MATH EXCEPTION TYPE!!! Please review tqMathException: "},
+        {static_cast<tqMathException::Type>(42), "Undefined MATH EXCEPTION TYPE!!! Please review tqMathException: "},
+    };
+    for (const auto& c : cases) {
+        const tqMathException e(c.type, u"detail");
+        EXPECT_EQ(misc::to_utf8(e.GetMessage()), std::string(c.prefix) + "detail");
+        EXPECT_EQ(e.GetCode(), 0);
+        EXPECT_EQ(e.GetType(), c.type);
+        EXPECT_EQ(e.GetDetail(), misc::tqstring(u"detail"));
+    }
+}
+
+TEST(TqMathException, CloneKeepsTheClassAndRethrowSlices) {
+    const misc::tqException cause(7, u"cause");
+    const tqMathException e(tqMathException::DivisionByZero, u"x / 0", &cause);
+    ASSERT_EQ(e.GetEarlierFailures().size(), 1u);
+    const auto clone = e.Clone();
+    const auto* typed = dynamic_cast<const tqMathException*>(clone.Get());
+    ASSERT_NE(typed, nullptr);
+    EXPECT_EQ(typed->GetType(), tqMathException::DivisionByZero);
+    EXPECT_EQ(*clone, e);
+    try {
+        e.Rethrow();
+    } catch (const tqMathException&) {
+        FAIL() << "Rethrow must throw a plain tqException";
+    } catch (const misc::tqException& thrown) {
+        EXPECT_EQ(thrown.GetMessage(), misc::tqstring(u"Division by zero: x / 0"));
+    }
+}
