@@ -1,0 +1,51 @@
+// TypedVisitor: a visitor interface implemented once for every class of a closed type list.
+#pragma once
+
+#include <type_traits>
+
+#include "misc/tqtypelist.h"
+
+namespace tqWorkRig {
+namespace detail_ {
+
+/// Implements the slot Visit(const T&) by handing the visited object to Derived::OnVisit.
+template <class Derived, class T, class Next>
+class OneVisitFunctionImplementer : public Next {
+public:
+    using Next::Visit;
+    void Visit(const T& visited) override { static_cast<Derived&>(*this).OnVisit(visited); }
+};
+
+/// Implements the slot of the abstract base by handing it to Derived::OnVisitBase.
+template <class Derived, class Visitor, class Base>
+class BaseVisitFunctionImplementer : public Visitor {
+public:
+    using Visitor::Visit;
+    void Visit(const Base& visited) override { static_cast<Derived&>(*this).OnVisitBase(visited); }
+};
+
+template <class Derived, class Visitor, class Base, class List>
+struct TypedVisitorChain;
+
+template <class Derived, class Visitor, class Base>
+struct TypedVisitorChain<Derived, Visitor, Base, misc::tqTypeList<>> {
+    using type = BaseVisitFunctionImplementer<Derived, Visitor, Base>;
+};
+
+template <class Derived, class Visitor, class Base, class T, class... Rest>
+struct TypedVisitorChain<Derived, Visitor, Base, misc::tqTypeList<T, Rest...>> {
+    static_assert(std::is_base_of<Base, T>::value, "every class of the list derives from the visited base");
+    using type = OneVisitFunctionImplementer<Derived, T,
+                                             typename TypedVisitorChain<Derived, Visitor, Base,
+                                                                        misc::tqTypeList<Rest...>>::type>;
+};
+
+/// Derives from Visitor with one slot per class T of List, each calling Derived::OnVisit(const T&), and the
+/// base slot calling Derived::OnVisitBase(const Base&). A slot of Visitor with no class in List stays pure, so
+/// `!std::is_abstract<Derived>` checks that List covers the visitor; a class of List without a slot fails to
+/// compile at `override`.
+template <class Derived, class Visitor, class Base, class List>
+using TypedVisitor = typename TypedVisitorChain<Derived, Visitor, Base, List>::type;
+
+}  // namespace detail_
+}  // namespace tqWorkRig
