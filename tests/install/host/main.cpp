@@ -2,17 +2,57 @@
 #include <tqWorkRig/tqWorkRig.h>
 
 #include <cstdio>
+#include <string>
+
+namespace {
+
+int Check(bool condition, const char* what) {
+    if (!condition) std::printf("outside host: %s failed\n", what);
+    return condition ? 0 : 1;
+}
+
+}  // namespace
 
 int main() {
-    misc::tqstring name(u"outside host");
-    cadcam::tqTMesh<double> mesh(measures::tqUnitsFactory::Metric);
-    mesh.AddTriangle({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
+    int failures = 0;
+
+    tqWorkRig::WorkRig rig(measures::tqUnitsFactory::Inch);
+    rig.SetDisplayName(u"outside host");
+    rig.SetNCFile(L"/jobs/part.nc");
+    failures += Check(rig.GetNCFile() == misc::tqstring(u"part.nc"), "WorkRig::SetNCFile");
+
+    tqWorkRig::Box box(u"fixture");
+    box.SetAlpha(0.5f);
+    failures += Check(box.Alpha() == 127, "Geometry::SetAlpha");
+
+    misc::tqAutoPointer<cadcam::tqTMesh<double>> mesh(new cadcam::tqTMesh<double>(measures::tqUnitsFactory::Metric));
+    mesh->AddTriangle({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
+    misc::tqMemoryIOStream stream(1024);
+    cadcam::tqTSTLTranslator<double>::WriteSTLStream(*mesh, stream);
+    failures += Check(stream.GetSize() == 134, "binary STL size");
+    stream.Seek(0);
+    cadcam::tqTMesh<double> readBack(measures::tqUnitsFactory::Metric);
+    cadcam::tqTSTLTranslator<double>().ReadSTLStream(stream, readBack);
+    failures += Check(readBack == *mesh, "STL round trip");
+    tqWorkRig::Mesh geometry(mesh, u"part");
+    failures += Check(geometry.GetMesh()->GetTriangleCount() == 1, "Mesh geometry");
+
+    const cadcam::tq2dArc<double> arc({1, 0}, {0, 1}, {0, 0}, cadcam::tqArcDirection::Counterclockwise);
+    failures += Check(arc.GetSweep() == 90.0, "tq2dArc sweep");
+    failures += Check(cadcam::tqMatrix<double, 4, 4>::Identity() == cadcam::tqMatrix<double, 4, 4>(), "tqMatrix");
+
     try {
         misc::tqAutoPointer<int> none;
-        return *none;
+        failures += *none;
     } catch (const misc::tqException& e) {
-        if (misc::to_utf8(e.GetMessage()) != "Accessing TQ_NULL pointer") return 1;
+        failures += Check(misc::to_utf8(e.GetMessage()) == "Accessing TQ_NULL pointer", "null dereference text");
     }
-    std::printf("%s: %zu triangle\n", misc::to_utf8(name).c_str(), mesh.GetTriangleCount());
-    return 0;
+    try {
+        tqWorkRig::WorkRig bad(static_cast<measures::tqUnitsFactory::Units>(0));
+    } catch (const measures::tqmeasuresException& e) {
+        failures += Check(e.GetCode() == 2141 && e.GetMessage() == misc::tqstring(u"Unknown Units"), "units failure");
+    }
+
+    std::printf("outside host: %s, %d failure(s)\n", misc::to_utf8(rig.GetDisplayName()).c_str(), failures);
+    return failures == 0 ? 0 : 1;
 }

@@ -1,0 +1,139 @@
+// The example host: builds a work rig as a CAM host would and prints what it holds.
+#include <tqWorkRig/tqWorkRig.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+using misc::tqAutoPointer;
+using misc::tqstring;
+using measures::tqUnitsFactory;
+
+namespace {
+
+std::string Utf8(const tqstring& text) { return misc::to_utf8(text); }
+
+const char* UnitsName(tqUnitsFactory::Units units) { return units == tqUnitsFactory::Metric ? "metric" : "inch"; }
+
+void PrintRig(const char* title, const tqWorkRig::WorkRig& rig) {
+    std::printf("%s\n", title);
+    std::printf("  name:        %s\n", Utf8(rig.GetDisplayName()).c_str());
+    std::printf("  units:       %s\n", UnitsName(rig.GetUnits()));
+    std::printf("  machine:     %s\n", Utf8(rig.GetMachineXMLFile()).c_str());
+    std::printf("  NC program:  %s\n", Utf8(rig.GetNCFile()).c_str());
+    for (const auto& [key, value] : *rig.GetAllAttributes())
+        std::printf("  attribute:   %s = %s\n", Utf8(key).c_str(), Utf8(value).c_str());
+}
+
+void PrintColour(const tqWorkRig::Geometry& g) {
+    std::printf("rgba(%u, %u, %u, %u)", g.Red(), g.Green(), g.Blue(), g.Alpha());
+}
+
+// Prints each geometry through the visitor, as a host's viewer would dispatch on the shape.
+class GeometryPrinter : public tqWorkRig::GeometryVisitor {
+public:
+    void Visit(const tqWorkRig::Cylinder& c) override {
+        std::printf("  cylinder %-12s diameter %.1f, length %.1f, axis (%g, %g, %g), ", Utf8(c.GetDisplayName()).c_str(),
+                    c.GetDiameter(), c.GetLength(), c.GetAxis().x, c.GetAxis().y, c.GetAxis().z);
+        PrintColour(c);
+        std::printf("\n");
+    }
+    void Visit(const tqWorkRig::Box& b) override {
+        const auto& lo = b.GetLowerCorner();
+        const auto& hi = b.GetUpperCorner();
+        std::printf("  box      %-12s (%g, %g, %g) to (%g, %g, %g), ", Utf8(b.GetDisplayName()).c_str(), lo.x, lo.y, lo.z,
+                    hi.x, hi.y, hi.z);
+        PrintColour(b);
+        std::printf("\n");
+    }
+    void Visit(const tqWorkRig::Mesh& m) override {
+        std::printf("  mesh     %-12s %zu triangles, ", Utf8(m.GetDisplayName()).c_str(),
+                    m.GetMesh().IsNotNull() ? m.GetMesh()->GetTriangleCount() : std::size_t{0});
+        PrintColour(m);
+        std::printf("\n");
+    }
+    void Visit(const tqWorkRig::Geometry&) override { std::printf("  (unknown geometry)\n"); }
+};
+
+// A closed box of twelve triangles, as a host's stock model might arrive.
+tqAutoPointer<cadcam::tqTMesh<double>> StockMesh() {
+    using P = cadcam::tqTPoint3d<double>;
+    tqAutoPointer<cadcam::tqTMesh<double>> mesh(new cadcam::tqTMesh<double>(tqUnitsFactory::Metric));
+    const P c[8] = {{0, 0, 0}, {100, 0, 0}, {100, 60, 0}, {0, 60, 0},
+                    {0, 0, 40}, {100, 0, 40}, {100, 60, 40}, {0, 60, 40}};
+    const int faces[6][4] = {{0, 3, 2, 1}, {4, 5, 6, 7}, {0, 1, 5, 4}, {1, 2, 6, 5}, {2, 3, 7, 6}, {3, 0, 4, 7}};
+    const P normals[6] = {{0, 0, -1}, {0, 0, 1}, {0, -1, 0}, {1, 0, 0}, {0, 1, 0}, {-1, 0, 0}};
+    for (int f = 0; f < 6; ++f) {
+        mesh->AddTriangle(c[faces[f][0]], c[faces[f][1]], c[faces[f][2]], normals[f]);
+        mesh->AddTriangle(c[faces[f][0]], c[faces[f][2]], c[faces[f][3]], normals[f]);
+    }
+    return mesh;
+}
+
+}  // namespace
+
+int main() {
+    using namespace tqWorkRig;
+
+    // A metric rig, named and described as the host's job list shows it.
+    WorkRig rig(tqUnitsFactory::Metric);
+    rig.SetDisplayName(u"Bracket 4711, OP10");
+    rig.SetAttribute(u"Customer", u"Müller Feinmechanik");
+    rig.SetAttribute(u"Operator", u"A. Smith");
+    rig.SetMachineXMLFile(u"C:\\machines\\vmc-850.xml");
+    rig.SetNCFile(u"C:\\jobs\\4711\\op10.nc");
+    PrintRig("Work rig:", rig);
+
+    // A copy shares the attribute map but keeps its own name and file names.
+    WorkRig copy(rig);
+    copy.SetDisplayName(u"Bracket 4711, OP10 (copy)");
+    copy.SetAttribute(u"Revision", u"B");
+    std::printf("\nCopy equals original: %s (names and attributes are not compared)\n", copy == rig ? "yes" : "no");
+    std::printf("Original sees the copy's new attribute: Revision = %s\n",
+                Utf8(rig.GetAttributeValue(u"Revision")).c_str());
+    copy.SetNCFile(u"/jobs/4711/op20.nc");
+    std::printf("After a new NC file on the copy, equal: %s\n", copy == rig ? "yes" : "no");
+
+    // A change of units retags the rig; it scales nothing the rig holds.
+    copy.SetUnits(tqUnitsFactory::Inch);
+    std::printf("Copy changed to %s; equal to the metric original: %s\n", UnitsName(copy.GetUnits()),
+                copy == rig ? "yes" : "no");
+
+    // The shapes of a vise, a round stock and a meshed part, with their colours.
+    Box vise({-60, -40, 0}, {60, 40, 80}, u"Vise");
+    vise.SetRed(0.2f), vise.SetGreen(0.3f), vise.SetBlue(0.8f);
+    Cylinder bar({0, 0, 0}, {0, 0, 1}, 50.0, 120.0, u"Bar stock");
+    bar.Red(200), bar.Green(200), bar.Blue(210), bar.SetAlpha(0.5f);
+    Mesh part(StockMesh(), u"Blank");
+    part.Green(160);
+
+    std::printf("\nGeometries:\n");
+    GeometryPrinter printer;
+    const Geometry* shapes[] = {&vise, &bar, &part};
+    for (const Geometry* g : shapes) g->AcceptVisitor(printer);
+
+    // The mesh goes out as binary STL and comes back.
+    const std::string stlFile = (std::filesystem::temp_directory_path() / "host_example_blank.stl").string();
+    const tqstring stlPath(stlFile.c_str());
+    cadcam::tqTSTLTranslator<double> translator;
+    cadcam::tqTSTLTranslator<double>::WriteSTLFile(*part.GetMesh(), stlPath);
+    cadcam::tqTMesh<double> readBack(tqUnitsFactory::Metric);
+    translator.ReadSTLFile(stlPath, readBack);
+    std::remove(stlFile.c_str());
+    std::printf("\nSTL written and read back: %zu triangles, equal to the original mesh: %s\n",
+                readBack.GetTriangleCount(), readBack == *part.GetMesh() ? "yes" : "no");
+
+    // Misuse ends in the library's exceptions, with their codes and texts.
+    try {
+        WorkRig broken(static_cast<tqUnitsFactory::Units>(3));
+    } catch (const misc::tqException& e) {
+        std::printf("\nLibrary failure caught: code %d, \"%s\"\n", e.GetCode(), Utf8(e.GetMessage()).c_str());
+    }
+    try {
+        Mesh empty(u"No mesh yet");
+        std::printf("%zu\n", empty.GetMesh()->GetTriangleCount());
+    } catch (const misc::tqException& e) {
+        std::printf("Library failure caught: code %d, \"%s\"\n", e.GetCode(), Utf8(e.GetMessage()).c_str());
+    }
+    return 0;
+}
