@@ -8,6 +8,9 @@
 class TiXmlDocument;
 
 namespace tqWorkRig {
+
+using misc::tqstring;
+
 namespace ArchiveDataReader {
 
 /// What a document reader asks of an opened archive.

@@ -12,6 +12,8 @@ class TiXmlDocument;
 
 namespace tqWorkRig {
 
+using misc::tqstring;
+
 /// One mesh member to be stored: its member name, as the document's "stlFile" names it, and the shared mesh.
 struct MeshEntry {
     tqstring name;
