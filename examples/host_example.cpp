@@ -1,4 +1,5 @@
 // The example host: builds a work rig as a CAM host would and prints what it holds.
+#include <minizip/unzip.h>
 #include <tqWorkRig/tqWorkRig.h>
 
 #include <cstdio>
@@ -70,6 +71,20 @@ tqAutoPointer<cadcam::tqTMesh<double>> StockMesh() {
     return mesh;
 }
 
+// Lists an archive's members as any ZIP tool sees them: the document is a plain ZIP archive.
+void PrintArchiveMembers(const std::string& path) {
+    unzFile zip = unzOpen64(path.c_str());
+    if (zip == nullptr) return;
+    for (int status = unzGoToFirstFile(zip); status == UNZ_OK; status = unzGoToNextFile(zip)) {
+        char name[257] = {};
+        unz_file_info64 info;
+        if (unzGetCurrentFileInfo64(zip, &info, name, sizeof name - 1, nullptr, 0, nullptr, 0) != UNZ_OK) break;
+        std::printf("  %-20s %8llu bytes, %8llu stored\n", name, static_cast<unsigned long long>(info.uncompressed_size),
+                    static_cast<unsigned long long>(info.compressed_size));
+    }
+    unzClose(zip);
+}
+
 }  // namespace
 
 int main() {
@@ -122,6 +137,21 @@ int main() {
     std::remove(stlFile.c_str());
     std::printf("\nSTL written and read back: %zu triangles, equal to the original mesh: %s\n",
                 readBack.GetTriangleCount(), readBack == *part.GetMesh() ? "yes" : "no");
+
+    // The rig goes out as a document archive and comes back; only what the rig held at the writer's
+    // construction is saved.
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "host_example_rig";
+    const std::string rigFile = (folder / "bracket_4711_op10.wr").string();
+    tqAutoPointer<WorkRig> toSave(new WorkRig(rig));
+    WorkRigFileWriter writer(toSave, WorkRigFileWriter::Version2);
+    writer.WriteToFile(tqstring(rigFile.c_str()), WorkRigFileWriter::Best);
+    WorkRigFileReader reader(tqstring(rigFile.c_str()));
+    const WorkRig& loaded = *reader.GetWorkRig();
+    std::printf("\nSaved to %s and loaded back, equal: %s\n", rigFile.c_str(), loaded == *toSave ? "yes" : "no");
+    PrintRig("Loaded work rig:", loaded);
+    std::printf("Archive members:\n");
+    PrintArchiveMembers(rigFile);
+    std::filesystem::remove_all(folder);
 
     // Misuse ends in the library's exceptions, with their codes and texts.
     try {

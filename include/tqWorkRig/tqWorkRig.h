@@ -46,3 +46,7 @@
 #include "tqWorkRig/model/mesh.h"
 #include "tqWorkRig/model/objectsversion.h"
 #include "tqWorkRig/model/workrig.h"
+
+// tqWorkRig: persistence
+#include "tqWorkRig/persistence/workrigfilereader.h"
+#include "tqWorkRig/persistence/workrigfilewriter.h"

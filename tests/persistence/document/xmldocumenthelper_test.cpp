@@ -1,0 +1,171 @@
+// XMLDocumentHelper: text attributes in UTF-8, the declaration's encoding, typed attributes, matrices and the
+// "Attribute" children of objects.
+#include "persistence/document/xmldocumenthelper.h"
+
+#include <tinyxml.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/tqtest.h"
+#include "tqWorkRig/model/baseobject.h"
+
+using misc::tqstring;
+using tqWorkRig::BaseObject;
+using tqWorkRig::XMLDocumentHelper;
+
+namespace {
+
+constexpr char kConversionFailed[] = "Conversion from string to value failed";
+constexpr char kNullAttribute[] =
+    "tqWorkRig::XMLDocumentHelper::GetAttribute: Trying to get attribute value for NULL XML element";
+
+XMLDocumentHelper NewHelper() { return XMLDocumentHelper("1.0", "UTF-8"); }
+
+// The names of an element's attributes, in their order.
+std::vector<std::string> AttributeNames(const TiXmlElement& element) {
+    std::vector<std::string> names;
+    for (const TiXmlAttribute* a = element.FirstAttribute(); a != nullptr; a = a->Next()) names.push_back(a->Name());
+    return names;
+}
+
+// The first element of a parsed text, kept alive by the document.
+const TiXmlElement* Parse(TiXmlDocument& document, const char* text) {
+    document.Parse(text);
+    EXPECT_FALSE(document.Error()) << document.ErrorDesc();
+    return document.RootElement();
+}
+
+}  // namespace
+
+TEST(XMLDocumentHelper, DeclarationIsVersionOneUtf8WithoutStandalone) {
+    const XMLDocumentHelper helper = NewHelper();
+    std::unique_ptr<TiXmlDeclaration> declaration(helper.CreateDeclaration());
+    EXPECT_STREQ(declaration->Version(), "1.0");
+    EXPECT_STREQ(declaration->Encoding(), "UTF-8");
+    EXPECT_STREQ(declaration->Standalone(), "");
+}
+
+TEST(XMLDocumentHelper, ReadingADeclarationKeepsItsEncoding) {
+    XMLDocumentHelper helper = NewHelper();
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"UTF8", "UTF-8"}, {"", "UTF-8"}, {"UTF-8", "UTF-8"}, {"ISO-8859-1", "ISO-8859-1"}, {"utf-8", "utf-8"}};
+    for (const auto& c : cases) {
+        helper.ReadDeclaration(TiXmlDeclaration("1.0", c.first, ""));
+        EXPECT_EQ(helper.GetEncoding(), c.second) << c.first;
+    }
+}
+
+TEST(XMLDocumentHelper, TextAttributesAreUtf8) {
+    const XMLDocumentHelper helper = NewHelper();
+    TiXmlElement element("E");
+    helper.SetAttribute(element, "name", u"Müller \U0001F600");
+    EXPECT_STREQ(element.Attribute("name"), "M\xC3\xBCller \xF0\x9F\x98\x80");
+    EXPECT_EQ(helper.GetAttribute(&element, "name"), tqstring(u"Müller \U0001F600"));
+    // An absent text attribute reads as the empty string.
+    EXPECT_EQ(helper.GetAttribute(&element, "other"), tqstring());
+    EXPECT_EQ(helper.GetName(&element), tqstring(u"E"));
+}
+
+TEST(XMLDocumentHelper, OtherEncodingsReadByteByByte) {
+    TiXmlDocument document;
+    const TiXmlElement* element =
+        Parse(document, "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?><E n=\"M\xFCller\"/>");
+    XMLDocumentHelper helper = NewHelper();
+    helper.ReadDeclaration(*document.FirstChild()->ToDeclaration());
+    EXPECT_EQ(helper.GetAttribute(element, "n"), tqstring(u"Müller"));
+}
+
+TEST(XMLDocumentHelper, NullElementsFail) {
+    const XMLDocumentHelper helper = NewHelper();
+    EXPECT_THROW_CODE(helper.GetAttribute(nullptr, "x"), misc::tqException, 0, kNullAttribute);
+    EXPECT_THROW_CODE(helper.GetName(nullptr), misc::tqException, 0,
+                      "tqWorkRig::XMLDocumentHelper::GetName: Trying to get name for NULL XML element");
+    EXPECT_THROW_MSG(helper.GetIntAttribute(nullptr, "x"), misc::tqException, kNullAttribute);
+    EXPECT_THROW_MSG(helper.ReadMatrix(nullptr), misc::tqException, kNullAttribute);
+    BaseObject object(u"o");
+    EXPECT_THROW_MSG(helper.ReadAttribute(nullptr, object), misc::tqException, kNullAttribute);
+}
+
+TEST(XMLDocumentHelper, TypedAttributesUseTheNumberFormats) {
+    const XMLDocumentHelper helper = NewHelper();
+    TiXmlElement element("E");
+    helper.SetIntAttribute(element, "i", -3);
+    helper.SetUInt64Attribute(element, "u", 12345678901234ull);
+    helper.SetDoubleAttribute(element, "d", 1.0 / 3.0);
+    helper.SetExactDoubleAttribute(element, "x", 1.0 / 3.0);
+    helper.SetPointAttribute(element, "p", {1.0, 2.0, 3.0});
+    helper.SetBoolAttribute(element, "b", true);
+    EXPECT_EQ(AttributeNames(element), (std::vector<std::string>{"i", "u", "d", "x", "p", "b"}));
+    EXPECT_STREQ(element.Attribute("d"), "0.333333");
+    EXPECT_STREQ(element.Attribute("x"), "0.33333333333333331482961625624739");
+    EXPECT_STREQ(element.Attribute("p"), "1.000000,2.000000,3.000000");
+    EXPECT_STREQ(element.Attribute("b"), "true");
+
+    EXPECT_EQ(helper.GetIntAttribute(&element, "i"), -3);
+    EXPECT_EQ(helper.GetUInt64Attribute(&element, "u"), 12345678901234ull);
+    EXPECT_EQ(helper.GetDoubleAttribute(&element, "d"), 0.333333);
+    EXPECT_EQ(helper.GetDoubleAttribute(&element, "x"), 1.0 / 3.0);
+    EXPECT_TRUE(helper.GetPointAttribute(&element, "p") == cadcam::tqTPoint3d<double>(1.0, 2.0, 3.0));
+    EXPECT_TRUE(helper.GetBoolAttribute(&element, "b"));
+}
+
+TEST(XMLDocumentHelper, AbsentNumbersFailButAbsentTruthIsFalse) {
+    const XMLDocumentHelper helper = NewHelper();
+    const TiXmlElement element("E");
+    EXPECT_THROW_CODE(helper.GetIntAttribute(&element, "i"), misc::tqmiscException, 2579, kConversionFailed);
+    EXPECT_THROW_CODE(helper.GetUInt64Attribute(&element, "u"), misc::tqmiscException, 2579, kConversionFailed);
+    EXPECT_THROW_CODE(helper.GetDoubleAttribute(&element, "d"), misc::tqmiscException, 2579, kConversionFailed);
+    EXPECT_THROW_CODE(helper.GetPointAttribute(&element, "p"), misc::tqmiscException, 2579, kConversionFailed);
+    EXPECT_THROW_CODE(helper.ReadMatrix(&element), misc::tqmiscException, 2579, kConversionFailed);
+    EXPECT_FALSE(helper.GetBoolAttribute(&element, "b"));
+}
+
+TEST(XMLDocumentHelper, MatrixIsAChildElementThatRoundTrips) {
+    const XMLDocumentHelper helper = NewHelper();
+    cadcam::tqMatrix<double, 4, 4> matrix = cadcam::tqMatrix<double, 4, 4>::Rotation({1.0, 1.0, 0.0}, 33.3);
+    matrix(0, 3) = 1.0 / 3.0;
+    TiXmlElement parent("P");
+    helper.AppendMatrix(parent, matrix);
+    const TiXmlElement* child = parent.FirstChildElement();
+    ASSERT_NE(child, nullptr);
+    EXPECT_STREQ(child->Value(), "Matrix4x4");
+    EXPECT_EQ(AttributeNames(*child), std::vector<std::string>{"matrix"});
+    EXPECT_TRUE(helper.ReadMatrix(child) == matrix);
+}
+
+TEST(XMLDocumentHelper, AttributeChildrenInKeyOrderWithKeyThenValue) {
+    const XMLDocumentHelper helper = NewHelper();
+    BaseObject object(u"o");
+    object.SetAttribute(u"zeta", u"last");
+    object.SetAttribute(u"Alpha", u"first");
+    object.SetAttribute(u"mid", u"");
+    TiXmlElement parent("P");
+    helper.WriteAttributes(parent, object);
+
+    std::vector<std::string> keys;
+    for (const TiXmlElement* a = parent.FirstChildElement(); a != nullptr; a = a->NextSiblingElement()) {
+        EXPECT_STREQ(a->Value(), "Attribute");
+        EXPECT_EQ(AttributeNames(*a), (std::vector<std::string>{"key", "value"}));
+        keys.push_back(a->Attribute("key"));
+    }
+    EXPECT_EQ(keys, (std::vector<std::string>{"Alpha", "mid", "zeta"}));
+
+    TiXmlElement none("P");
+    helper.WriteAttributes(none, BaseObject(u"empty"));
+    EXPECT_EQ(none.FirstChild(), nullptr);
+}
+
+TEST(XMLDocumentHelper, ReadingAttributesKeepsTheLastOfARepeatedKey) {
+    TiXmlDocument document;
+    const TiXmlElement* element = Parse(document,
+                                        "<P><Attribute key=\"k\" value=\"one\"/><Other key=\"o\" value=\"x\"/>"
+                                        "<Attribute value=\"no key\"/><Attribute key=\"k\" value=\"two\"/>"
+                                        "<Attribute key=\"v\"/></P>");
+    const XMLDocumentHelper helper = NewHelper();
+    BaseObject object(u"o");
+    helper.ReadAttributes(*element, object);
+    const BaseObject::AttributeMap expected = {{u"", u"no key"}, {u"k", u"two"}, {u"v", u""}};
+    EXPECT_EQ(*object.GetAllAttributes(), expected);
+}
