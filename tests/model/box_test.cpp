@@ -8,19 +8,15 @@
 using cadcam::tqTPoint3d;
 using tqWorkRig::Box;
 
-TEST(Box, NameOnlyConstructorGivesTheUnitCube) {
-    const Box box(u"stock");
-    EXPECT_EQ(box.GetLowerCorner(), tqTPoint3d<double>(-1, -1, -1));
-    EXPECT_EQ(box.GetUpperCorner(), tqTPoint3d<double>(1, 1, 1));
-}
-
-TEST(Box, CornersAreComparedExactly) {
-    const Box a({5, 5, 5}, {0, 0, 0}, u"b");
+TEST(Box, DefaultsToTheUnitCubeAndComparesCornersExactly) {
+    const Box cube(u"stock"), a({5, 5, 5}, {0, 0, 0}, u"b");
+    EXPECT_EQ(cube.GetLowerCorner(), tqTPoint3d<double>(-1, -1, -1));
+    EXPECT_EQ(cube.GetUpperCorner(), tqTPoint3d<double>(1, 1, 1));
     Box b(a);
     EXPECT_TRUE(a == b);
     b.SetUpperCorner({0, 0, std::nextafter(0.0, 1.0)});
     EXPECT_TRUE(a != b);
     const Box nan({NAN, 0, 0}, {1, 1, 1}, u"b");
-    EXPECT_TRUE(nan == nan);
+    EXPECT_TRUE(nan == nan);  // the same object
     EXPECT_FALSE(nan == Box(nan));
 }

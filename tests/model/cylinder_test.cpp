@@ -6,16 +6,12 @@
 using cadcam::tqTPoint3d;
 using tqWorkRig::Cylinder;
 
-TEST(Cylinder, NameOnlyConstructorDefaults) {
-    const Cylinder c(u"c");
+TEST(Cylinder, DefaultsAndEveryFieldInEquality) {
+    const Cylinder c(u"c"), reference({1, 2, 3}, {0, 0, 0}, 0.0, -4.0, u"c");
     EXPECT_EQ(c.GetStartPoint(), tqTPoint3d<double>(0, 0, 0));
     EXPECT_EQ(c.GetAxis(), tqTPoint3d<double>(0, 0, 1));
     EXPECT_EQ(c.GetDiameter(), 1.0);
     EXPECT_EQ(c.GetLength(), 1.0);
-}
-
-TEST(Cylinder, EachFieldTakesPartInEquality) {
-    const Cylinder reference({1, 2, 3}, {0, 0, 0}, 0.0, -4.0, u"c");
     EXPECT_TRUE(reference == Cylinder(reference));
     Cylinder start(reference), axis(reference), diameter(reference), length(reference);
     start.SetStartPoint({1, 2, 3.5});

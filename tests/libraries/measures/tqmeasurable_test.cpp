@@ -1,73 +1,53 @@
 // tqMeasurable: validation of units, and what a change of unit system hands to Scale.
 #include "measures/tqmeasurable.h"
 
+#include <utility>
 #include <vector>
 
 #include "measures/tqmeasuresexception.h"
 #include "support/tqtest.h"
 
 using measures::tqmeasuresException;
-using measures::tqMeasurable;
 using measures::tqUnitsFactory;
 
 namespace {
 
 /// Records each call of Scale.
-class Recorder : public tqMeasurable {
+class Recorder : public measures::tqMeasurable {
 public:
     using tqMeasurable::tqMeasurable;
-    struct Call {
-        tqUnitsFactory::Units units;
-        double factor;
-    };
-    std::vector<Call> m_calls;
+    std::vector<std::pair<tqUnitsFactory::Units, double>> m_calls;
 
 protected:
     void Scale(tqUnitsFactory::Units units, const double& factor) override {
-        // The units field is already the new one when Scale runs.
-        EXPECT_EQ(GetUnits(), units);
-        m_calls.push_back({units, factor});
+        EXPECT_EQ(GetUnits(), units);  // the units field is already the new one
+        m_calls.emplace_back(units, factor);
     }
 };
-
-const auto kZero = static_cast<tqUnitsFactory::Units>(0);
-const auto kThree = static_cast<tqUnitsFactory::Units>(3);
 
 }  // namespace
 
 TEST(TqMeasurable, UnitsOtherThanMetricAndInchFail) {
-    EXPECT_THROW_CODE(Recorder{kZero}, tqmeasuresException, 2141, "Unknown Units");
-    EXPECT_THROW_CODE(Recorder{kThree}, tqmeasuresException, 2141, "Unknown Units");
+    const auto zero = static_cast<tqUnitsFactory::Units>(0), three = static_cast<tqUnitsFactory::Units>(3);
+    EXPECT_THROW_CODE(Recorder{zero}, tqmeasuresException, 2141, "Unknown Units");
+    EXPECT_THROW_CODE(Recorder{three}, tqmeasuresException, 2141, "Unknown Units");
     Recorder r(tqUnitsFactory::Metric);
-    EXPECT_THROW_CODE(r.SetUnits(kZero), tqmeasuresException, 2141, "Unknown Units");
-    EXPECT_THROW_CODE(r.SetUnits(kThree, true), tqmeasuresException, 2141, "Unknown Units");
+    EXPECT_THROW_CODE(r.SetUnits(zero), tqmeasuresException, 2141, "Unknown Units");
+    EXPECT_THROW_CODE(r.SetUnits(three, true), tqmeasuresException, 2141, "Unknown Units");
     EXPECT_EQ(r.GetUnits(), tqUnitsFactory::Metric);
     EXPECT_TRUE(r.m_calls.empty());
 }
 
-TEST(TqMeasurable, ChangeHandsTheFactorToScale) {
+TEST(TqMeasurable, ScaleIsToldEachChangeWithItsFactorOrOneWhenSuppressed) {
     Recorder r(tqUnitsFactory::Metric);
     r.SetUnits(tqUnitsFactory::Inch);
+    r.SetUnits(tqUnitsFactory::Inch);  // no change, no call
     r.SetUnits(tqUnitsFactory::Metric);
-    ASSERT_EQ(r.m_calls.size(), 2u);
-    EXPECT_EQ(r.m_calls[0].units, tqUnitsFactory::Inch);
-    EXPECT_EQ(r.m_calls[0].factor, 0.03937007874015748);
-    EXPECT_EQ(r.m_calls[1].units, tqUnitsFactory::Metric);
-    EXPECT_EQ(r.m_calls[1].factor, 25.4);
-}
-
-TEST(TqMeasurable, SuppressedScalingPassesOne) {
-    Recorder r(tqUnitsFactory::Inch);
     r.SetUnits(tqUnitsFactory::Metric, true);
-    EXPECT_EQ(r.GetUnits(), tqUnitsFactory::Metric);
-    ASSERT_EQ(r.m_calls.size(), 1u);
-    EXPECT_EQ(r.m_calls[0].factor, 1.0);
-}
-
-TEST(TqMeasurable, ChangeToTheCurrentUnitsDoesNothing) {
-    Recorder r(tqUnitsFactory::Inch);
-    r.SetUnits(tqUnitsFactory::Inch);
     r.SetUnits(tqUnitsFactory::Inch, true);
-    EXPECT_TRUE(r.m_calls.empty());
     EXPECT_EQ(r.GetUnits(), tqUnitsFactory::Inch);
+    EXPECT_EQ(
+        r.m_calls,
+        (std::vector<std::pair<tqUnitsFactory::Units, double>>{
+            {tqUnitsFactory::Inch, 0.03937007874015748}, {tqUnitsFactory::Metric, 25.4}, {tqUnitsFactory::Inch, 1.0}}));
 }

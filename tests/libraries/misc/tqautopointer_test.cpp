@@ -16,11 +16,8 @@ struct Counted {
     virtual ~Counted() { ++*m_deaths; }
     int* m_deaths;
 };
-
 struct Derived : Counted {
-    Derived(int* deaths, int* derivedDeaths) : Counted(deaths), m_derivedDeaths(derivedDeaths) {}
-    ~Derived() override { ++*m_derivedDeaths; }
-    int* m_derivedDeaths;
+    using Counted::Counted;
 };
 
 struct NonVirtualBase {
@@ -39,77 +36,59 @@ TEST(TqAutoPointer, CopiesShareOneCountAndDeleteOnce) {
     {
         tqAutoPointer<Counted> a(new Counted(&deaths));
         EXPECT_EQ(a.UseCount(), 1u);
-        tqAutoPointer<Counted> b(a);
-        tqAutoPointer<Counted> c;
+        tqAutoPointer<Counted> b(a), c;
         c = b;
-        EXPECT_EQ(a.UseCount(), 3u);
-        EXPECT_EQ(a.Get(), c.Get());
         c = c;  // self-assignment does nothing
         EXPECT_EQ(a.UseCount(), 3u);
+        EXPECT_EQ(a.Get(), c.Get());
     }
     EXPECT_EQ(deaths, 1);
 }
 
-TEST(TqAutoPointer, PointersMadeSeparatelyFromOneObjectHaveTheirOwnBlocks) {
+TEST(TqAutoPointer, SeparateBlocksAndTheOwnsFlag) {
     int deaths = 0;
     auto* raw = new Counted(&deaths);
     tqAutoPointer<Counted> owner(raw);
     {
-        tqAutoPointer<Counted> second(raw);
+        tqAutoPointer<Counted> second(raw), copy(second);
         EXPECT_EQ(owner.UseCount(), 1u);
-        EXPECT_EQ(second.UseCount(), 1u);
-        second.SetOwns(false);  // as a frame's parent link does: the second block must not delete
+        EXPECT_EQ(second.UseCount(), 2u);
+        copy.SetOwns(false);  // as a frame's parent link does: the second block must not delete
+        EXPECT_FALSE(second.Owns());
     }
     EXPECT_EQ(deaths, 0);
     owner = tqAutoPointer<Counted>();
     EXPECT_EQ(deaths, 1);
 }
 
-TEST(TqAutoPointer, ClearedOwnsFlagKeepsThePointeeForEveryCopy) {
-    int deaths = 0;
-    auto* raw = new Counted(&deaths);
-    {
-        tqAutoPointer<Counted> a(raw);
-        tqAutoPointer<Counted> b(a);
-        b.SetOwns(false);
-        EXPECT_FALSE(a.Owns());
-    }
-    EXPECT_EQ(deaths, 0);
-    delete raw;
-}
-
 TEST(TqAutoPointer, ConversionToBaseDeletesTheDerivedType) {
     int deaths = 0;
     {
         tqAutoPointer<NonVirtualBase> base;
-        {
-            tqAutoPointer<NonVirtualDerived> derived(new NonVirtualDerived(&deaths));
-            base = derived;
-            EXPECT_EQ(base.UseCount(), 2u);
-        }
+        base = tqAutoPointer<NonVirtualDerived>(new NonVirtualDerived(&deaths));
+        EXPECT_EQ(base.UseCount(), 1u);
         EXPECT_EQ(base->value, 7);
     }
     EXPECT_EQ(deaths, 1);  // deleted as NonVirtualDerived although only a base pointer was left
 }
 
 TEST(TqAutoPointer, DynamicCastSharesTheBlockOrGivesNull) {
-    int deaths = 0, derivedDeaths = 0;
-    tqAutoPointer<Counted> base(new Derived(&deaths, &derivedDeaths));
-    tqAutoPointer<Derived> derived = base.DynamicCast<Derived>();
-    ASSERT_TRUE(derived.IsNotNull());
+    int deaths = 0;
+    tqAutoPointer<Counted> base(new Derived(&deaths)), plain(new Counted(&deaths));
+    const tqAutoPointer<Derived> derived = base.DynamicCast<Derived>();
+    EXPECT_EQ(derived.Get(), base.Get());
     EXPECT_EQ(base.UseCount(), 2u);
-    tqAutoPointer<Counted> plain(new Counted(&deaths));
     EXPECT_TRUE(plain.DynamicCast<Derived>().IsNull());
 }
 
 TEST(TqAutoPointer, NullIsReadFromTheControlBlockAndDereferenceThrows) {
-    tqAutoPointer<int> null;
+    tqAutoPointer<int> null, copy(null);  // copying null touches no count
     EXPECT_FALSE(null.IsNotNull());
+    EXPECT_TRUE(copy.IsNull());
     EXPECT_EQ(tqAutoPointer<int>(nullptr).UseCount(), 0u);
     EXPECT_THROW_MSG(*null, misc::tqException, "Accessing TQ_NULL pointer");
-    EXPECT_THROW_MSG(static_cast<void>(tqAutoPointer<std::vector<int>>()->size()), misc::tqException, "Accessing TQ_NULL pointer");
-    tqAutoPointer<int> copy(null);  // copying null touches no count
-    EXPECT_TRUE(copy.IsNull());
+    EXPECT_THROW_MSG(static_cast<void>(tqAutoPointer<std::vector<int>>()->size()), misc::tqException,
+                     "Accessing TQ_NULL pointer");
 }
 
 TEST(TqAutoPointer, CopiesFromManyThreadsKeepTheCountExact) {
@@ -119,8 +98,7 @@ TEST(TqAutoPointer, CopiesFromManyThreadsKeepTheCountExact) {
     for (int t = 0; t < 4; ++t)
         threads.emplace_back([&shared] {
             for (int i = 0; i < 20000; ++i) {
-                tqAutoPointer<Counted> copy(shared);
-                tqAutoPointer<Counted> other;
+                tqAutoPointer<Counted> copy(shared), other;
                 other = copy;
             }
         });

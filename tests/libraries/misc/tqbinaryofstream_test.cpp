@@ -17,16 +17,16 @@ std::string TempPath(const std::string& name) {
 }
 
 std::string Slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
     std::ostringstream out;
-    out << in.rdbuf();
+    out << std::ifstream(path, std::ios::binary).rdbuf();
     return out.str();
 }
 
 }  // namespace
 
-TEST(TqBinaryOFStream, WritesOfAnySizeLandInOrder) {
+TEST(TqBinaryOFStream, WritesOfAnySizeLandInOrderAndReplaceTheFile) {
     const std::string path = TempPath("order.bin");
+    std::ofstream(path) << std::string(200, '-');
     std::string expected;
     {
         misc::tqBinaryOFStream out(misc::tqstring(path), 16);
@@ -40,25 +40,18 @@ TEST(TqBinaryOFStream, WritesOfAnySizeLandInOrder) {
         out.Close();  // twice is harmless
     }
     EXPECT_EQ(Slurp(path), expected);
-    std::filesystem::remove(path);
-}
-
-TEST(TqBinaryOFStream, TheDestructorFlushesAndAnExistingFileIsReplaced) {
-    const std::string path = TempPath("replace.bin");
-    std::ofstream(path) << "old content that is longer";
     {
         misc::tqBinaryOFStream out{misc::tqstring(path)};
         out.Write("new", 3);
     }
-    EXPECT_EQ(Slurp(path), "new");
+    EXPECT_EQ(Slurp(path), "new");  // the destructor flushes
     std::filesystem::remove(path);
 }
 
 TEST(TqBinaryOFStream, FailuresNameThePath) {
-    const misc::tqstring bad(TempPath("no_such_folder/file.bin"));
+    const misc::tqstring bad(TempPath("no_such_folder/file.bin")), path(TempPath("closed.bin"));
     EXPECT_THROW_MSG(misc::tqBinaryOFStream{bad}, misc::tqmiscException,
                      u"tqBinaryOFStream::tqBinaryOFStream -> Could not create '" + bad + u"'");
-    const misc::tqstring path(TempPath("closed.bin"));
     misc::tqBinaryOFStream out(path);
     out.Close();
     EXPECT_THROW_MSG(out.Write("x", 1), misc::tqmiscException, u"tqBinaryOFStream::Write -> '" + path + u"' is closed");

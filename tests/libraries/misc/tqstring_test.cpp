@@ -6,14 +6,18 @@
 using misc::tqstring;
 
 TEST(TqString, ConstructsFromNarrowWideAndUtf16Alike) {
-    const tqstring a("Gr\xC3\xBC\xC3\x9F" "e \xF0\x9F\x94\xA7");
+    const tqstring a(
+        "Gr\xC3\xBC\xC3\x9F"
+        "e \xF0\x9F\x94\xA7");
     const tqstring b(u"Grüße 🔧");
     const tqstring c(L"Grüße 🔧");
     EXPECT_EQ(a, b);
     EXPECT_EQ(b, c);
     EXPECT_EQ(b.size(), 8u);  // the tool emoji is a surrogate pair
     EXPECT_TRUE(a.narrow().empty());
-    EXPECT_EQ(misc::to_utf8(b), "Gr\xC3\xBC\xC3\x9F" "e \xF0\x9F\x94\xA7");
+    EXPECT_EQ(misc::to_utf8(b),
+              "Gr\xC3\xBC\xC3\x9F"
+              "e \xF0\x9F\x94\xA7");
     EXPECT_EQ(misc::to_wstring(b), L"Grüße 🔧");
 }
 
@@ -21,7 +25,9 @@ TEST(TqString, NullEmptyAndInvalidNarrowSourcesNeverFail) {
     EXPECT_TRUE(tqstring(static_cast<const char*>(nullptr)).empty());
     EXPECT_TRUE(tqstring(static_cast<const char16_t*>(nullptr)).empty());
     EXPECT_TRUE(tqstring("").empty());
-    EXPECT_EQ(tqstring("a\xFF" "b"), tqstring(u"a\uFFFDb"));
+    EXPECT_EQ(tqstring("a\xFF"
+                       "b"),
+              tqstring(u"a\uFFFDb"));
 }
 
 TEST(TqString, OrdersByUnsignedCodeUnitsWithPrefixFirst) {
@@ -34,39 +40,29 @@ TEST(TqString, OrdersByUnsignedCodeUnitsWithPrefixFirst) {
     EXPECT_NE(tqstring(u"Abc"), tqstring(u"abc"));
 }
 
-TEST(TqString, ConcatenatesWithLiteralsOfBothKindsOnEitherSide) {
+TEST(TqString, ConcatenationCopyAndAssignment) {
     const tqstring mid(u"mid");
     EXPECT_EQ(u"<" + mid + u">", tqstring(u"<mid>"));
     EXPECT_EQ(L"<" + mid + L">", tqstring(u"<mid>"));
     EXPECT_EQ("<" + mid + ">", tqstring(u"<mid>"));
-    tqstring s(u"a");
-    s += tqstring(u"b");
-    s += u'c';
-    EXPECT_EQ(s, tqstring(u"abc"));
+    tqstring a(u"a"), b(a);
+    a += tqstring(u"b");
+    a += u'c';
+    EXPECT_EQ(b, tqstring(u"a"));
+    b = a;
+    a = tqstring(u"x");
+    EXPECT_EQ(b, tqstring(u"abc"));
+    EXPECT_EQ(a, tqstring(u"x"));
 }
 
-TEST(TqString, CopyAndAssignmentKeepWideTextOnly) {
-    tqstring a(u"one");
-    tqstring b(a);
-    EXPECT_EQ(a, b);
-    b = tqstring(u"two");
-    EXPECT_EQ(a, tqstring(u"one"));
-    a = b;
-    EXPECT_EQ(a, tqstring(u"two"));
-}
-
-TEST(FromUtf8, StrictFormRejectsInvalidSequences) {
-    const char* message =
-        "misc::from_utf8: UTF8 -> tqstring conversioned failed (most likely cause: invalid UTF8 sequence)";
-    EXPECT_THROW_MSG(misc::from_utf8(std::string("\xC3")), misc::tqException, message);          // truncated
-    EXPECT_THROW_MSG(misc::from_utf8(std::string("\xC0\xAF")), misc::tqException, message);      // overlong
-    EXPECT_THROW_MSG(misc::from_utf8(std::string("\xED\xA0\x80")), misc::tqException, message);  // surrogate
-    EXPECT_THROW_MSG(misc::from_utf8(std::string("\xF4\x90\x80\x80")), misc::tqException, message);  // > U+10FFFF
+TEST(Utf8, StrictFormRejectsInvalidSequencesAndLoneSurrogatesBecomeReplacements) {
+    // Truncated, overlong, a surrogate, above U+10FFFF.
+    for (const char* bad : {"\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80"})
+        EXPECT_THROW_MSG(misc::from_utf8(std::string(bad)), misc::tqException,
+                         "misc::from_utf8: UTF8 -> tqstring conversioned failed (most likely cause: invalid UTF8 "
+                         "sequence)");
     EXPECT_EQ(misc::from_utf8(std::string("\xE2\x82\xAC")), tqstring(u"\u20AC"));
     EXPECT_EQ(misc::from_utf8(std::string()), tqstring());
-}
-
-TEST(ToUtf8, LoneSurrogatesBecomeReplacementCharacters) {
     const char16_t lone[] = {u'x', 0xD800, u'y', 0};
     EXPECT_EQ(misc::to_utf8(tqstring(lone)), "x\xEF\xBF\xBDy");
 }

@@ -9,7 +9,6 @@
 #include "cadcam/geometry/tq2dpoint.h"
 #include "support/tqtest.h"
 
-using cadcam::tqArcDirection;
 using Contour = cadcam::tq2dContour<double>;
 using Geometry = cadcam::tq2dGeometry<double>;
 using Line = cadcam::tq2dLine<double>;
@@ -23,7 +22,7 @@ namespace {
 Contour Profile() {
     Contour c;
     c.Append(Item(new Line(P(0, 0), P(2, 0))));
-    c.Append(Item(new Arc(P(2, 0), P(3, 1), P(2, 1), tqArcDirection::Counterclockwise)));
+    c.Append(Item(new Arc(P(2, 0), P(3, 1), P(2, 1), cadcam::tqArcDirection::Counterclockwise)));
     c.Append(Item(new Line(P(3, 1), P(3, 5))));
     return c;
 }
@@ -31,21 +30,16 @@ Contour Profile() {
 }  // namespace
 
 TEST(Tq2dContour, IteratesInOrderAndRefusesBadDereference) {
-    const Contour c = Profile();
+    const Contour c = Profile(), empty;
     std::vector<const Geometry*> seen;
     for (const Item& item : c) seen.push_back(item.Get());
-    ASSERT_EQ(seen.size(), 3u);
-    EXPECT_EQ(seen[1], c.GetItem(1).Get());
+    EXPECT_EQ(seen, (std::vector<const Geometry*>{c.GetItem(0).Get(), c.GetItem(1).Get(), c.GetItem(2).Get()}));
     auto it = c.end();
-    EXPECT_THROW_MSG(*it, misc::tqException, "Dereference of bad pointer");
-    --it;
-    EXPECT_EQ(it->Get(), seen[2]);
-    EXPECT_THROW_MSG(*Contour::ConstIterator(), misc::tqException, "Dereference of bad pointer");
-    const Contour empty;
-    EXPECT_EQ(empty.begin(), empty.end());
-    EXPECT_THROW_MSG(*empty.begin(), misc::tqException, "Dereference of bad pointer");
+    EXPECT_EQ((--it)->Get(), seen[2]);
     --it, --it, --it;  // before the first item
-    EXPECT_THROW_MSG(*it, misc::tqException, "Dereference of bad pointer");
+    EXPECT_EQ(empty.begin(), empty.end());
+    for (const auto& bad : {c.end(), Contour::ConstIterator(), empty.begin(), it})
+        EXPECT_THROW_MSG(*bad, misc::tqException, "Dereference of bad pointer");
 }
 
 TEST(Tq2dContour, EditingChecksIndicesAndNulls) {
@@ -60,11 +54,12 @@ TEST(Tq2dContour, EditingChecksIndicesAndNulls) {
     c.Erase(0);
     c.Insert(2, first);
     EXPECT_EQ(c.GetItem(2).Get(), first.Get());
+    EXPECT_NE(c, Profile());  // items compare in order
     c.Clear();
     EXPECT_TRUE(c.IsEmpty());
 }
 
-TEST(Tq2dContour, CopySharesItemsAndCloneCopiesThem) {
+TEST(Tq2dContour, CopySharesItemsCloneCopiesThemAndScaleTouchesEachOnce) {
     Contour original = Profile();
     const Contour copy = original;
     const Item clone = original.Clone();
@@ -75,33 +70,20 @@ TEST(Tq2dContour, CopySharesItemsAndCloneCopiesThem) {
     original.GetItem(0)->Scale(2);
     EXPECT_EQ(copy, original);
     EXPECT_NE(cloned, original);
-}
-
-TEST(Tq2dContour, ScaleTouchesASharedItemOnce) {
-    Contour c;
+    Contour twice;
     const Item line(new Line(P(1, 1), P(2, 2)));
-    c.Append(line);
-    c.Append(line);
-    c.Scale(10);
+    twice.Append(line);
+    twice.Append(line);
+    twice.Scale(10);
     EXPECT_EQ(dynamic_cast<const Line&>(*line).GetEnd(), P(20, 20));
 }
 
-TEST(Tq2dContour, ComparesItemsInOrderAndByKind) {
-    EXPECT_EQ(Profile(), Profile());
-    Contour reordered = Profile();
-    const Item first = reordered.GetItem(0);
-    reordered.Erase(0);
-    reordered.Append(first);
-    EXPECT_NE(Profile(), reordered);
-    // A point and a zero-length line at the same place are different kinds.
-    Contour point, line;
-    point.Append(Item(new cadcam::tq2dPoint<double>(P(1, 1))));
-    line.Append(Item(new Line(P(1, 1), P(1, 1))));
-    EXPECT_NE(point, line);
-    EXPECT_NE(Contour(), line);
-    // Contours nest, and compare through their items.
+TEST(Tq2dContour, ContoursNestAndCompareThroughTheirItems) {
     Contour outer1, outer2;
     outer1.Append(Item(new Contour(Profile())));
     outer2.Append(Item(new Contour(Profile())));
     EXPECT_EQ(outer1, outer2);
+    EXPECT_NE(outer1, Contour());
+    outer2.Append(Item(new cadcam::tq2dPoint<double>(P(1, 1))));
+    EXPECT_NE(outer1, outer2);
 }

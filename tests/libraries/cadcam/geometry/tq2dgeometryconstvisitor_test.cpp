@@ -31,24 +31,20 @@ public:
 template <class T>
 std::vector<misc::tqAutoPointer<tq2dGeometry<T>>> OneOfEach() {
     using P = tqTPoint2d<T>;
-    return {misc::tqAutoPointer<tq2dGeometry<T>>(new tq2dLine<T>(P(0, 0), P(1, 0))),
-            misc::tqAutoPointer<tq2dGeometry<T>>(new tq2dArc<T>(P(0, 0), 1, 0, 90)),
-            misc::tqAutoPointer<tq2dGeometry<T>>(new tq2dContour<T>()),
-            misc::tqAutoPointer<tq2dGeometry<T>>(new tq2dPoint<T>(P(1, 2))),
-            misc::tqAutoPointer<tq2dGeometry<T>>(new tq2dPolyLine<T>({P(0, 0), P(1, 1)}))};
+    using Item = misc::tqAutoPointer<tq2dGeometry<T>>;
+    return {Item(new tq2dLine<T>(P(0, 0), P(1, 0))), Item(new tq2dArc<T>(P(0, 0), 1, 0, 90)),
+            Item(new tq2dContour<T>()), Item(new tq2dPoint<T>(P(1, 2))), Item(new tq2dPolyLine<T>({P(0, 0), P(1, 1)}))};
 }
 
 template <class T>
 void ExpectEachKindInItsSlot() {
     const auto items = OneOfEach<T>();
     ASSERT_EQ(items.size(), tq2dGeometryTypes<T>::size);
-    Recorder<T> recorder;
+    Recorder<T> recorder, outer;
     for (const auto& item : items) item->AcceptVisitor(recorder);
     EXPECT_EQ(recorder.m_slots, (std::vector<std::string>{"line", "arc", "contour", "point", "polyline"}));
-    // A contour's own slot is called, not its items'.
-    tq2dContour<T> contour;
+    tq2dContour<T> contour;  // a contour's own slot is called, not its items'
     contour.Append(items[0]);
-    Recorder<T> outer;
     contour.AcceptVisitor(outer);
     EXPECT_EQ(outer.m_slots, std::vector<std::string>{"contour"});
 }
@@ -61,15 +57,12 @@ TEST(Tq2dGeometryConstVisitor, DispatchesEachKind) {
 }
 
 TEST(Tq2dGeometryConstVisitor, BaseComparisonNeedsTheSameKind) {
-    const auto a = OneOfEach<double>();
-    const auto b = OneOfEach<double>();
-    for (std::size_t i = 0; i < a.size(); ++i)
-        for (std::size_t j = 0; j < b.size(); ++j) EXPECT_EQ(*a[i] == *b[j], i == j) << i << " vs " << j;
-    // Clones are equal and of the same kind.
-    for (const auto& item : a) {
-        const auto clone = item->Clone();
-        EXPECT_NE(clone.Get(), item.Get());
-        EXPECT_TRUE(*clone == *item);
+    // Each item equals its clone, a distinct object, and no item of another kind.
+    const auto items = OneOfEach<double>();
+    for (std::size_t j = 0; j < items.size(); ++j) {
+        const auto clone = items[j]->Clone();
+        EXPECT_NE(clone.Get(), items[j].Get());
+        for (std::size_t i = 0; i < items.size(); ++i) EXPECT_EQ(*items[i] == *clone, i == j) << i << " vs " << j;
     }
     // A NaN makes an item unequal even to itself.
     const tq2dPoint<double> nan(tqTPoint2d<double>(std::nan(""), 0));

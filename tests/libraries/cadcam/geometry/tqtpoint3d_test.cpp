@@ -11,23 +11,21 @@ using cadcam::tqTPoint2d;
 using cadcam::tqTPoint3d;
 
 TEST(TqTPoint3d, OneUlpApartIsUnequalAndNanIsUnequalToItself) {
-    const double x = 0.1;
-    const double next = std::nextafter(x, 1.0);
-    EXPECT_EQ(tqTPoint3d<double>(x, 2, 3), tqTPoint3d<double>(0.1, 2, 3));
-    EXPECT_NE(tqTPoint3d<double>(x, 2, 3), tqTPoint3d<double>(next, 2, 3));
-    EXPECT_NE(tqTPoint3d<double>(1, 2, x), tqTPoint3d<double>(1, 2, next));
-    const tqTPoint3d<double> nan(1, std::numeric_limits<double>::quiet_NaN(), 3);
+    using P3 = tqTPoint3d<double>;
+    const double next = std::nextafter(0.1, 1.0);
+    EXPECT_EQ(P3(0.1, 2, 3), P3(0.1, 2, 3));
+    EXPECT_NE(P3(0.1, 2, 3), P3(next, 2, 3));
+    EXPECT_NE(P3(1, 2, 0.1), P3(1, 2, next));
+    const P3 nan(1, std::numeric_limits<double>::quiet_NaN(), 3);
     EXPECT_FALSE(nan == nan);
     EXPECT_TRUE(nan != nan);
-    // Signed zeros are equal numbers.
-    EXPECT_EQ(tqTPoint3d<double>(0.0, 0, 0), tqTPoint3d<double>(-0.0, 0, 0));
+    EXPECT_EQ(P3(0.0, 0, 0), P3(-0.0, 0, 0));  // signed zeros are equal numbers
 }
 
 TEST(TqTPoint2d, ComparesExactlyAndMeasuresDistances) {
     const tqTPoint2d<double> a(3, 4);
     EXPECT_NE(a, tqTPoint2d<double>(3, std::nextafter(4.0, 5.0)));
-    const tqTPoint2d<double> nan(std::numeric_limits<double>::quiet_NaN(), 0);
-    EXPECT_FALSE(nan == nan);
+    EXPECT_FALSE(tqTPoint2d<double>(std::nan(""), 0) == tqTPoint2d<double>(std::nan(""), 0));
     EXPECT_EQ(a.Length(), 5.0);
     EXPECT_EQ(a.DistanceTo(tqTPoint2d<double>(0, 0)), 5.0);
     // Cross is positive when the second vector lies counterclockwise of the first.

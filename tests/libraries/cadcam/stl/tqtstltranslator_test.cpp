@@ -18,8 +18,8 @@
 #include "misc/tqmemoryiostream.h"
 #include "support/tqtest.h"
 
-// The largest single allocation, so that hostile counts can be shown not to reserve anything. The compiler
-// cannot see that every new and delete of this program meet in malloc and free.
+// Records the largest allocation, so hostile counts can be shown to reserve nothing. Every new and delete here
+// meet in malloc and free, which the compiler cannot see.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 static std::size_t g_largestAllocation = 0;
@@ -40,14 +40,16 @@ namespace {
 using Translator = cadcam::tqTSTLTranslator<double>;
 using Mesh = cadcam::tqTMesh<double>;
 using P = cadcam::tqPoint3d;
+using Reader = void (Translator::*)(misc::tqBinInputStream&, Mesh&) const;
 
 const char* kInvalidFormat = "Invalid .stl file format!";
 const char* kInvalidCount = "Invalid number of triangles found in .stl file!";
 const char* kUnexpectedEnd = "Unexpected end of input stream occurred when reading .stl file";
+const char* kUnknown = "Unknown keyword found while parsing .stl file";
+const std::size_t kUnsized = std::size_t(1) << 20;  // a piece size that hands out everything at once
 
 /// Keeps every byte and the size of every Write call.
-class RecordingStream : public misc::tqBinOutputStream {
-public:
+struct RecordingStream : misc::tqBinOutputStream {
     std::string bytes;
     std::vector<std::uint64_t> sizes;
     void Write(const void* source, std::uint64_t count) override {
@@ -57,66 +59,48 @@ public:
 };
 
 /// An input stream that does not know its size and hands out at most `piece` bytes per call.
-class PlainStream : public misc::tqBinInputStream {
-public:
-    explicit PlainStream(std::string data, std::size_t piece = 1 << 20) : m_data(std::move(data)), m_piece(piece) {}
+struct PlainStream : misc::tqBinInputStream {
+    PlainStream(std::string data, std::size_t piece) : m_data(std::move(data)), m_piece(piece) {}
     void Read(void* destination, std::uint64_t& count) override {
-        const std::size_t take =
-            std::min<std::size_t>({static_cast<std::size_t>(count), m_piece, m_data.size() - m_at});
-        std::memcpy(destination, m_data.data() + m_at, take);
-        m_at += take;
-        count = take;
+        count = std::min<std::uint64_t>({count, m_piece, m_data.size() - m_at});
+        std::memcpy(destination, m_data.data() + m_at, count);
+        m_at += count;
     }
-
-private:
     std::string m_data;
-    std::size_t m_piece;
-    std::size_t m_at = 0;
+    std::size_t m_piece, m_at = 0;
 };
 
-std::string Binary(const Mesh& mesh) {
+/// What the block writer (or the text writer) makes of mesh.
+std::string Written(const Mesh& mesh, bool text = false) {
     RecordingStream out;
-    Translator::WriteSTLStream(mesh, out);
+    text ? Translator::WriteASTLStream(mesh, out) : Translator::WriteSTLStream(mesh, out);
     return out.bytes;
 }
 
-std::string Text(const Mesh& mesh) {
-    RecordingStream out;
-    Translator::WriteASTLStream(mesh, out);
-    return out.bytes;
-}
-
-/// Reads through a stream that knows its size.
-Mesh Read(std::string bytes, const Translator& translator = Translator()) {
-    misc::tqMemoryIOStream input(&bytes[0], bytes.size(), bytes.size());
-    Mesh mesh;
-    translator.ReadSTLStream(input, mesh);
+/// Reads into mesh from a stream that knows its size (piece 0) or from one handing out piece bytes per call.
+Mesh& ReadInto(Mesh& mesh, std::string bytes, std::size_t piece = 0, Reader read = &Translator::ReadSTLStream,
+               const Translator& translator = Translator()) {
+    misc::tqMemoryIOStream sized(&bytes[0], bytes.size(), bytes.size());
+    PlainStream plain(bytes, piece);
+    (translator.*read)(piece == 0 ? static_cast<misc::tqBinInputStream&>(sized) : plain, mesh);
     return mesh;
 }
 
-/// Reads through a stream that does not.
-Mesh ReadPlain(std::string bytes, std::size_t piece = 1 << 20) {
-    PlainStream input(std::move(bytes), piece);
+Mesh Read(std::string bytes, std::size_t piece = 0, Reader read = &Translator::ReadSTLStream) {
     Mesh mesh;
-    Translator().ReadSTLStream(input, mesh);
-    return mesh;
+    return ReadInto(mesh, std::move(bytes), piece, read);
 }
 
-float FloatAt(const std::string& bytes, std::size_t offset) {
-    float f;
-    std::memcpy(&f, bytes.data() + offset, 4);
-    return f;
+/// The bytes of these floats as stored.
+std::string Floats(std::initializer_list<float> values) {
+    return std::string(reinterpret_cast<const char*>(values.begin()), 4 * values.size());
 }
 
-std::string BinaryFile(std::int32_t count, std::size_t records, const char* header = "STL File") {
-    std::string bytes(80, ' ');
-    std::memcpy(&bytes[0], header, std::strlen(header));
-    bytes.append(reinterpret_cast<const char*>(&count), 4);
-    for (std::size_t i = 0; i < records; ++i) {
-        const float f[12] = {0, 0, 1, float(i), 0, 0, 1, float(i), 0, 0, 1, 0};
-        bytes.append(reinterpret_cast<const char*>(f), 48);
-        bytes.append(2, '\0');
-    }
+/// A binary file whose count field says `count`, holding `records` records.
+std::string BinaryFile(std::int32_t count, std::size_t records, const std::string& header = "STL File") {
+    std::string bytes = header + std::string(80 - header.size(), ' ') + std::string(reinterpret_cast<char*>(&count), 4);
+    for (std::size_t i = 0; i < records; ++i)
+        bytes += Floats({0, 0, 1, float(i), 0, 0, 1, float(i), 0, 0, 1, 0}) + std::string(2, '\0');
     return bytes;
 }
 
@@ -135,9 +119,8 @@ Mesh SharedMesh(std::size_t triangles, unsigned seed) {
 }
 
 std::string Slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
     std::ostringstream out;
-    out << in.rdbuf();
+    out << std::ifstream(path, std::ios::binary).rdbuf();
     return out.str();
 }
 
@@ -147,72 +130,50 @@ std::string TempPath(const std::string& name) {
 
 }  // namespace
 
-TEST(TqTSTLTranslatorWrite, EmptyMeshIsTheHeaderAndACountOfZero) {
-    const std::string bytes = Binary(Mesh());
-    ASSERT_EQ(bytes.size(), 84u);
-    EXPECT_EQ(bytes.substr(0, 80), "STL File" + std::string(72, ' '));
-    EXPECT_EQ(bytes.substr(80), std::string(4, '\0'));
+TEST(TqTSTLTranslatorWrite, BinaryBytesAndNarrowing) {
+    const std::string empty = Written(Mesh());
+    ASSERT_EQ(empty.size(), 84u);
+    EXPECT_EQ(empty, "STL File" + std::string(72, ' ') + std::string(4, '\0'));
     RecordingStream header;
     Translator::WriteSTLHeader(header);
-    EXPECT_EQ(header.bytes, bytes.substr(0, 80));
+    EXPECT_EQ(header.bytes, empty.substr(0, 80));
     EXPECT_EQ(header.sizes, std::vector<std::uint64_t>{80});
-}
 
-TEST(TqTSTLTranslatorWrite, RecordIsStoredNormalThenCornersThenZeroAttribute) {
     Mesh mesh;
-    mesh.AddVertex(P(7, 8, 9));
-    mesh.AddVertex(P(1, 2, 3));
-    mesh.AddVertex(P(4, 5, 6));
+    for (const P& p : {P(7, 8, 9), P(1, 2, 3), P(4, 5, 6)}) mesh.AddVertex(p);
     mesh.AddTriangle(1, 2, 0, P(0.5, -0.25, 3));  // the stored normal is written, not a computed one
-    const std::string bytes = Binary(mesh);
-    ASSERT_EQ(bytes.size(), 134u);
-    EXPECT_EQ(bytes.substr(80, 4), std::string("\x01\0\0\0", 4));
-    const float expected[12] = {0.5f, -0.25f, 3, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-    for (int i = 0; i < 12; ++i) EXPECT_EQ(FloatAt(bytes, 84 + 4 * i), expected[i]) << i;
-    EXPECT_EQ(bytes.substr(132), std::string(2, '\0'));
+    const std::string bytes = Written(mesh);
+    EXPECT_EQ(bytes.substr(80), std::string("\x01\0\0\0", 4) + Floats({0.5f, -0.25f, 3, 1, 2, 3, 4, 5, 6, 7, 8, 9}) +
+                                    std::string(2, '\0'));
     EXPECT_EQ(bytes.substr(84, 4), std::string("\0\0\0\x3f", 4));  // little-endian 0.5f
-}
 
-TEST(TqTSTLTranslatorWrite, NarrowingClampsHugeAndFlushesTinyValues) {
-    const double clamp = 3.0000000054977558e+38;
-    EXPECT_EQ(Translator::Narrow(1e39), static_cast<float>(clamp));
-    EXPECT_EQ(static_cast<double>(Translator::Narrow(1e39)), clamp);
-    EXPECT_EQ(Translator::Narrow(-1e39), -static_cast<float>(clamp));
-    EXPECT_EQ(Translator::Narrow(3.1e38), static_cast<float>(clamp));  // tighter than the float's own limit
-    EXPECT_EQ(Translator::Narrow(1e-39), 0.0f);
+    const float clamp = static_cast<float>(3.0000000054977558e+38);  // tighter than the float's own limit
+    const double cases[][2] = {{1e39, clamp}, {-1e39, -clamp}, {3.1e38, clamp},
+                               {1e-39, 0},    {0.1, 0.1f},     {1.1754943508222875e-38, 1.1754943508222875e-38f}};
+    for (const auto& c : cases) EXPECT_EQ(Translator::Narrow(c[0]), static_cast<float>(c[1])) << c[0];
     EXPECT_FALSE(std::signbit(Translator::Narrow(-1e-39)));
-    EXPECT_EQ(Translator::Narrow(1.1754943508222875e-38), 1.1754943508222875e-38f);
-    EXPECT_EQ(Translator::Narrow(0.1), 0.1f);
     EXPECT_TRUE(std::isnan(Translator::Narrow(std::nan(""))));
     EXPECT_EQ(cadcam::tqTSTLTranslator<float>::Narrow(1e-40f), 0.0f);
-    EXPECT_EQ(cadcam::tqTSTLTranslator<float>::Narrow(3.3e38f), static_cast<float>(clamp));
-
-    Mesh mesh;
-    mesh.AddTriangle(P(1e-39, 1e39, -1e39), P(), P(), P());
-    const std::string bytes = Binary(mesh);
-    EXPECT_EQ(FloatAt(bytes, 96), 0.0f);
-    EXPECT_EQ(FloatAt(bytes, 100), static_cast<float>(clamp));
-    EXPECT_EQ(FloatAt(bytes, 104), -static_cast<float>(clamp));
+    EXPECT_EQ(cadcam::tqTSTLTranslator<float>::Narrow(3.3e38f), clamp);
+    Mesh extreme;
+    extreme.AddTriangle(P(1e-39, 1e39, -1e39), P(), P(), P());
+    EXPECT_EQ(Written(extreme).substr(96, 12), Floats({0, clamp, -clamp}));
 }
 
 TEST(TqTSTLTranslatorWrite, PiecewiseWritesOnePiecePerFieldAndMatchesTheBlockWriter) {
-    // More triangles than one block of the fast writer, over shared vertices in scattered order.
-    const Mesh mesh = SharedMesh(20000, 7);
-    RecordingStream piecewise;
+    const Mesh mesh = SharedMesh(20000, 7);  // more than one block of the block writer
+    RecordingStream piecewise, block, data;
     Translator::WriteSTLStreamPiecewise(mesh, piecewise);
+    Translator::WriteSTLStream(mesh, block);
+    Translator::WriteSTLData(mesh, data);
     ASSERT_EQ(piecewise.sizes.size(), 2 + 5 * mesh.GetTriangleCount());
     EXPECT_EQ(piecewise.sizes[0], 80u);
     EXPECT_EQ(piecewise.sizes[1], 4u);
     for (std::size_t i = 2; i < piecewise.sizes.size(); i += 5)
         ASSERT_EQ(std::vector<std::uint64_t>(piecewise.sizes.begin() + i, piecewise.sizes.begin() + i + 5),
                   (std::vector<std::uint64_t>{12, 12, 12, 12, 2}));
-    RecordingStream fast;
-    Translator::WriteSTLStream(mesh, fast);
-    EXPECT_EQ(fast.bytes, piecewise.bytes);
-    EXPECT_LT(fast.sizes.size(), 10u);
-
-    RecordingStream data;
-    Translator::WriteSTLData(mesh, data);
+    EXPECT_EQ(block.bytes, piecewise.bytes);
+    EXPECT_LT(block.sizes.size(), 10u);
     EXPECT_EQ(data.bytes, piecewise.bytes.substr(80));
 }
 
@@ -229,38 +190,45 @@ TEST(TqTSTLTranslatorWrite, MeshesTheFormatCannotHoldAreRefusedBeforeAnyByte) {
     }
     Mesh noTriangles;
     noTriangles.GetTriangles() = misc::tqAutoPointer<std::vector<Mesh::Triangle>>();
-    RecordingStream out;
-    EXPECT_THROW_MSG(Translator::WriteSTLStream(noTriangles, out), misc::tqException, "Accessing TQ_NULL pointer");
+    EXPECT_THROW_MSG(Written(noTriangles), misc::tqException, "Accessing TQ_NULL pointer");
+}
+
+TEST(TqTSTLTranslatorWrite, TextLayoutAndRoundTrip) {
+    Mesh mesh;
+    mesh.AddTriangle(P(0, 0.1, -2), P(1e-39, 1e39, 123456789), P(0.5, 1, 1.5), P(0, 0, 1));
+    EXPECT_EQ(Written(mesh, true),
+              "solid ascii\n"
+              "  facet normal 0 0 1\n"
+              "    outer loop\n"
+              "      vertex 0 0.1 -2\n"
+              "      vertex 0 3e+38 123456792\n"
+              "      vertex 0.5 1 1.5\n"
+              "    endloop\n"
+              "  endfacet\n"
+              "endsolid\n");
+    EXPECT_EQ(Written(Mesh(), true), "solid ascii\nendsolid\n");
+    // Every number reads back as the same float.
+    const Mesh source = SharedMesh(3000, 5);
+    EXPECT_EQ(Written(Read(Written(source, true), 0, &Translator::ParseASTLStream)), Written(source));
 }
 
 TEST(TqTSTLTranslatorRead, BinaryRoundTripAppendsThreeVerticesPerTriangle) {
     const Mesh source = SharedMesh(300, 11);
+    const std::string bytes = Written(source);
     Mesh mesh;
     mesh.AddTriangle(P(1, 1, 1), P(2, 2, 2), P(3, 3, 3), P(0, 0, 1));  // existing content stays in front
-    std::string bytes = Binary(source);
-    misc::tqMemoryIOStream input(&bytes[0], bytes.size(), bytes.size());
-    Translator().ReadSTLStream(input, mesh);
+    ReadInto(mesh, bytes);
     ASSERT_EQ(mesh.GetTriangleCount(), 301u);
     ASSERT_EQ(mesh.GetVertexCount(), 903u);
     EXPECT_EQ(mesh.Corner(0, 2), P(3, 3, 3));
-    for (std::size_t i = 0; i < 300; ++i) {
-        const auto& t = (*mesh.GetTriangles())[i + 1];
-        EXPECT_EQ(t.v[0], 3 + 3 * i);
-        EXPECT_EQ(t.v[2], 5 + 3 * i);
-        const auto& s = (*source.GetTriangles())[i];
-        EXPECT_EQ(t.normal,
-                  P(Translator::Narrow(s.normal.x), Translator::Narrow(s.normal.y), Translator::Narrow(s.normal.z)));
-        for (int k = 0; k < 3; ++k) {
-            const P& c = source.Corner(i, k);
-            ASSERT_EQ(mesh.Corner(i + 1, k),
-                      P(Translator::Narrow(c.x), Translator::Narrow(c.y), Translator::Narrow(c.z)));
-        }
+    for (std::uint32_t i = 1; i <= 300; ++i) {
+        const auto& v = (*mesh.GetTriangles())[i].v;
+        ASSERT_TRUE(v[0] == 3 * i && v[1] == 3 * i + 1 && v[2] == 3 * i + 2) << i;
     }
-    EXPECT_EQ(Binary(mesh).substr(134), bytes.substr(84));
-    PlainStream plain(bytes, 7);
-    Mesh unsized;
-    Translator().ParseSTLStream(plain, unsized);
-    EXPECT_EQ(Binary(unsized), bytes);
+    const P& c = source.Corner(0, 1);
+    EXPECT_EQ(mesh.Corner(1, 1), P(Translator::Narrow(c.x), Translator::Narrow(c.y), Translator::Narrow(c.z)));
+    EXPECT_EQ(Written(mesh).substr(134), bytes.substr(84));  // every normal and corner as written
+    EXPECT_EQ(Written(Read(bytes, 7, &Translator::ParseSTLStream)), bytes);
 }
 
 TEST(TqTSTLTranslatorRead, FloatMeshesRoundTripExactly) {
@@ -281,75 +249,50 @@ TEST(TqTSTLTranslatorRead, FloatMeshesRoundTripExactly) {
 TEST(TqTSTLTranslatorRead, BinaryWhoseHeaderBeginsWithSolidIsReadAsBinary) {
     const std::string bytes = BinaryFile(3, 3, "solid made by another program");
     EXPECT_EQ(Read(bytes).GetTriangleCount(), 3u);
-    EXPECT_EQ(ReadPlain(bytes, 5).GetTriangleCount(), 3u);
+    EXPECT_EQ(Read(bytes, 5).GetTriangleCount(), 3u);
     EXPECT_EQ(Read(BinaryFile(0, 0, "solid")).GetTriangleCount(), 0u);
     // The count no longer fits the size: then "solid" makes it text, which it is not.
-    EXPECT_THROW_MSG(Read(BinaryFile(4, 3, "solid x\nfoo")), misc::tqSTLParserException,
-                     "Unknown keyword found while parsing .stl file");
+    EXPECT_THROW_MSG(Read(BinaryFile(4, 3, "solid x\nfoo")), misc::tqSTLParserException, kUnknown);
 }
 
 TEST(TqTSTLTranslatorRead, TextSpellingsReadAlike) {
+    // Two facets closed by "endloop" and "endfacet", the same closed by "end loop" and "end facet", and the same
+    // in mixed case with "OUTERLOOP", CR LF line ends and signed numbers.
     const std::string dir = std::string(TQ_TEST_DATA_DIR) + "/stl/";
-    // two facets closed by "endloop" and "endfacet"
-    const std::string joined = Slurp(dir + "two_facets_endloop.stl");
-    // the same two facets closed by "end loop" and "end facet"
-    const std::string spaced = Slurp(dir + "two_facets_end_loop.stl");
-    // the same in upper and mixed case, "OUTERLOOP", CR LF line ends, signed numbers
-    const std::string upper = Slurp(dir + "two_facets_upper_crlf.stl");
-    const Mesh a = Read(joined), b = Read(spaced), c = ReadPlain(upper, 3);
-    const std::string bytes = Binary(a);
+    const Mesh a = Read(Slurp(dir + "two_facets_endloop.stl"));
+    const std::string bytes = Written(a);
     ASSERT_EQ(a.GetTriangleCount(), 2u);
     EXPECT_EQ(a.Corner(1, 2), P(1.5, -22.5, 0.03));
     EXPECT_EQ(a.Corner(1, 1), P(0, 1, 0));
     EXPECT_EQ((*a.GetTriangles())[1].normal, P(0, 0, -1));
-    EXPECT_EQ(Binary(b), bytes);
-    EXPECT_EQ(Binary(c), bytes);
-    Mesh fromFile;
-    Translator().ReadSTLFile(misc::tqstring(dir + "two_facets_end_loop.stl"), fromFile);
-    EXPECT_EQ(Binary(fromFile), bytes);
+    EXPECT_EQ(Written(Read(Slurp(dir + "two_facets_end_loop.stl"))), bytes);
+    EXPECT_EQ(Written(Read(Slurp(dir + "two_facets_upper_crlf.stl"), 3)), bytes);
 }
 
-TEST(TqTSTLTranslatorWrite, TextLayoutAndRoundTrip) {
-    Mesh mesh;
-    mesh.AddTriangle(P(0, 0.1, -2), P(1e-39, 1e39, 123456789), P(0.5, 1, 1.5), P(0, 0, 1));
-    EXPECT_EQ(Text(mesh),
-              "solid ascii\n"
-              "  facet normal 0 0 1\n"
-              "    outer loop\n"
-              "      vertex 0 0.1 -2\n"
-              "      vertex 0 3e+38 123456792\n"
-              "      vertex 0.5 1 1.5\n"
-              "    endloop\n"
-              "  endfacet\n"
-              "endsolid\n");
-    const Mesh source = SharedMesh(3000, 5);
-    std::string text = Text(source);
-    misc::tqMemoryIOStream input(&text[0], text.size(), text.size());
-    Mesh back;
-    Translator().ParseASTLStream(input, back);
-    EXPECT_EQ(Binary(back), Binary(source));  // every number reads back as the same float
-    EXPECT_EQ(Text(Mesh()), "solid ascii\nendsolid\n");
-}
-
-TEST(TqTSTLTranslatorRead, TruncatedAndMiscountedBinaryData) {
+TEST(TqTSTLTranslatorRead, TruncatedMiscountedAndGarbageData) {
     const std::string whole = BinaryFile(4, 4);
     for (std::size_t cut : {84u, 100u, 183u, 233u}) {
         SCOPED_TRACE(cut);
         EXPECT_THROW_MSG(Read(whole.substr(0, cut)), misc::tqSTLParserException, kInvalidCount);
-        EXPECT_THROW_MSG(ReadPlain(whole.substr(0, cut)), misc::tqSTLParserException, kUnexpectedEnd);
         // A failed read leaves what the mesh held before.
-        PlainStream plain(whole.substr(0, cut));
         Mesh mesh;
         mesh.AddTriangle(P(1, 1, 1), P(2, 2, 2), P(3, 3, 3), P(0, 0, 1));
-        EXPECT_THROW_MSG(Translator().ParseSTLStream(plain, mesh), misc::tqSTLParserException, kUnexpectedEnd);
+        EXPECT_THROW_MSG(ReadInto(mesh, whole.substr(0, cut), kUnsized), misc::tqSTLParserException, kUnexpectedEnd);
+        EXPECT_THROW_MSG(ReadInto(mesh, whole.substr(0, cut), kUnsized, &Translator::ParseSTLStream),
+                         misc::tqSTLParserException, kUnexpectedEnd);
         EXPECT_EQ(mesh.GetTriangleCount(), 1u);
         EXPECT_EQ(mesh.GetVertexCount(), 3u);
     }
     EXPECT_THROW_MSG(Read(whole + "x"), misc::tqSTLParserException, kInvalidCount);
     EXPECT_THROW_MSG(Read(BinaryFile(-1, 0)), misc::tqSTLParserException, kInvalidCount);
-    PlainStream shortHeader(whole.substr(0, 50));
-    Mesh mesh;
-    EXPECT_THROW_MSG(Translator().ParseSTLStream(shortHeader, mesh), misc::tqSTLParserException, kUnexpectedEnd);
+    EXPECT_THROW_MSG(Read(whole.substr(0, 50), kUnsized, &Translator::ParseSTLStream), misc::tqSTLParserException,
+                     kUnexpectedEnd);
+    for (const std::string& bytes : {std::string(), std::string("x"), std::string(83, '\x7f'), std::string("soli")})
+        EXPECT_THROW_MSG(Read(bytes), misc::tqSTLParserException, kInvalidFormat);
+    EXPECT_THROW_MSG(Read(std::string(50, 'g'), kUnsized), misc::tqSTLParserException, kInvalidFormat);
+    // Long enough for a binary header, but its count does not fit.
+    EXPECT_THROW_MSG(Read(std::string(1000, 'g')), misc::tqSTLParserException, kInvalidCount);
+    EXPECT_THROW_MSG(Read("solid\n" + std::string(500, '\x01') + "\n"), misc::tqSTLParserException, kUnknown);
 }
 
 TEST(TqTSTLTranslatorRead, HostileCountFailsWithoutAHugeAllocation) {
@@ -358,65 +301,50 @@ TEST(TqTSTLTranslatorRead, HostileCountFailsWithoutAHugeAllocation) {
         std::string bytes = BinaryFile(count, 2);
         bytes.resize(200, '\0');
         EXPECT_THROW_MSG(Read(bytes), misc::tqSTLParserException, kInvalidCount);
-        // Without a size the count is believed only as far as records arrive; more vertices than 32-bit
-        // indices can reach are refused at once.
+        // Unsized, the count is believed only as far as records arrive; more vertices than 32-bit indices can
+        // reach are refused at once.
         const char* text = count == 0x7fffffff ? kInvalidCount : kUnexpectedEnd;
-        EXPECT_THROW_MSG(ReadPlain(bytes), misc::tqSTLParserException, text);
-        PlainStream plain(bytes);
-        Mesh mesh;
-        EXPECT_THROW_MSG(Translator().ParseSTLStream(plain, mesh), misc::tqSTLParserException, text);
+        EXPECT_THROW_MSG(Read(bytes, kUnsized), misc::tqSTLParserException, text);
+        EXPECT_THROW_MSG(Read(bytes, kUnsized, &Translator::ParseSTLStream), misc::tqSTLParserException, text);
     }
     EXPECT_LT(g_largestAllocation, std::size_t(4) << 20);
-}
-
-TEST(TqTSTLTranslatorRead, GarbageIsRefused) {
-    for (const std::string& bytes : {std::string(), std::string("x"), std::string(83, '\x7f'), std::string("soli")})
-        EXPECT_THROW_MSG(Read(bytes), misc::tqSTLParserException, kInvalidFormat);
-    EXPECT_THROW_MSG(ReadPlain(std::string(50, 'g')), misc::tqSTLParserException, kInvalidFormat);
-    // Long enough for a binary header, but its count does not fit.
-    EXPECT_THROW_MSG(Read(std::string(1000, 'g')), misc::tqSTLParserException, kInvalidCount);
-    EXPECT_THROW_MSG(Read("solid\n" + std::string(500, '\x01') + "\n"), misc::tqSTLParserException,
-                     "Unknown keyword found while parsing .stl file");
 }
 
 TEST(TqTSTLTranslatorRead, ProgressIsReportedByPhaseAtABoundedRate) {
     std::vector<std::pair<std::string, double>> calls;
     const Translator translator(
         [&calls](const misc::tqstring& label, double fraction) { calls.emplace_back(misc::to_utf8(label), fraction); });
-    const Mesh read = Read(Binary(SharedMesh(100000, 1)), translator);
-    EXPECT_EQ(read.GetTriangleCount(), 100000u);
+    const std::string bytes = Written(SharedMesh(100000, 1));
+    Mesh mesh;
+    EXPECT_EQ(ReadInto(mesh, bytes, 0, &Translator::ReadSTLStream, translator).GetTriangleCount(), 100000u);
     ASSERT_GE(calls.size(), 3u);
     EXPECT_LE(calls.size(), 103u);
     EXPECT_EQ(calls.front(), std::make_pair(std::string("read triangle data"), 0.0));
     EXPECT_EQ(calls[calls.size() - 2], std::make_pair(std::string("read triangle data"), 1.0));
     EXPECT_EQ(calls.back(), std::make_pair(std::string("finish mesh"), 1.0));
     for (std::size_t i = 1; i + 1 < calls.size(); ++i) EXPECT_GT(calls[i].second, calls[i - 1].second);
-
     // A callback that throws cancels the read and leaves the mesh as it was.
     const Translator cancelling([](const misc::tqstring&, double fraction) {
         if (fraction > 0.5) throw misc::tqException(0, u"cancelled");
     });
-    Mesh mesh;
-    std::string bytes = Binary(SharedMesh(100000, 1));
-    misc::tqMemoryIOStream input(&bytes[0], bytes.size(), bytes.size());
-    EXPECT_THROW_MSG(cancelling.ReadSTLStream(input, mesh), misc::tqException, "cancelled");
-    EXPECT_EQ(mesh.GetTriangleCount(), 0u);
-    EXPECT_EQ(mesh.GetVertexCount(), 0u);
+    Mesh untouched;
+    EXPECT_THROW_MSG(ReadInto(untouched, bytes, 0, &Translator::ReadSTLStream, cancelling), misc::tqException,
+                     "cancelled");
+    EXPECT_EQ(untouched.GetTriangleCount() + untouched.GetVertexCount(), 0u);
 }
 
 TEST(TqTSTLTranslatorFile, WriteAndReadFilesOfBothForms) {
     const Mesh source = SharedMesh(100, 9);
-    const std::string binaryPath = TempPath("binary.stl"), textPath = TempPath("text.stl");
-    Translator::WriteSTLFile(source, misc::tqstring(binaryPath));
-    Translator::WriteSTLFile(source, misc::tqstring(textPath), Translator::Format::Text);
-    EXPECT_EQ(Slurp(binaryPath), Binary(source));
-    EXPECT_EQ(Slurp(textPath), Text(source));
-    Mesh a, b;
-    Translator().ReadSTLFile(misc::tqstring(binaryPath), a);
-    Translator().ReadSTLFile(misc::tqstring(textPath), b);
-    EXPECT_EQ(Binary(a), Binary(source));
-    EXPECT_EQ(Binary(b), Binary(source));
-
+    for (bool text : {false, true}) {
+        const misc::tqstring path(TempPath(text ? "text.stl" : "binary.stl"));
+        text ? Translator::WriteSTLFile(source, path, Translator::Format::Text)
+             : Translator::WriteSTLFile(source, path);
+        EXPECT_EQ(Slurp(misc::to_utf8(path)), Written(source, text));
+        Mesh back;
+        Translator().ReadSTLFile(path, back);
+        EXPECT_EQ(Written(back), Written(source));
+        std::filesystem::remove(misc::to_utf8(path));
+    }
     Mesh bad;
     bad.AddTriangle(0, 1, 2, P());
     const std::string badPath = TempPath("bad.stl");
@@ -424,43 +352,29 @@ TEST(TqTSTLTranslatorFile, WriteAndReadFilesOfBothForms) {
                      "Can not use a mesh whose triangle 0 refers to missing vertex 0 to write an STL file.");
     EXPECT_FALSE(std::filesystem::exists(badPath));
     EXPECT_THROW_MSG(
-        Translator().ReadSTLFile(misc::tqstring(badPath), a), misc::tqmiscException,
+        Translator().ReadSTLFile(misc::tqstring(badPath), bad), misc::tqmiscException,
         "tqBufferedBinaryIFStream::tqBufferedBinaryIFStream -> Could not open '" + badPath + "' for reading");
-    std::filesystem::remove(binaryPath);
-    std::filesystem::remove(textPath);
 }
 
 TEST(TqTSTLTranslatorRead, MutatedFilesEndInAMeshOrTheParserException) {
-    std::vector<std::string> seeds = {Binary(SharedMesh(3, 4)), Text(SharedMesh(2, 4)), BinaryFile(2, 2, "solid"),
-                                      Slurp(std::string(TQ_TEST_DATA_DIR) + "/stl/two_facets_upper_crlf.stl")};
+    const std::string seeds[] = {Written(SharedMesh(3, 4)), Written(SharedMesh(2, 4), true), BinaryFile(2, 2, "solid"),
+                                 Slurp(std::string(TQ_TEST_DATA_DIR) + "/stl/two_facets_upper_crlf.stl")};
     std::mt19937 random(20240601);
     int meshes = 0, refusals = 0;
     for (int round = 0; round < 4000; ++round) {
-        std::string bytes = seeds[static_cast<std::size_t>(round) % seeds.size()];
-        const int edits = 1 + static_cast<int>(random() % 4);
-        for (int e = 0; e < edits && !bytes.empty(); ++e) {
-            const std::size_t at = random() % bytes.size();
-            switch (random() % 5) {
-                case 0:
-                    bytes[at] = static_cast<char>(random());
-                    break;
-                case 1:
-                    bytes.resize(at);
-                    break;
-                case 2:
-                    bytes.insert(at, std::string(1 + random() % 8, static_cast<char>(random())));
-                    break;
-                case 3:
-                    bytes.erase(at, 1 + random() % 8);
-                    break;
-                default:
-                    bytes.insert(at, bytes.substr(at / 2, random() % 60));
-                    break;
-            }
+        std::string bytes = seeds[round % 4];
+        for (auto edits = 1 + random() % 4; edits > 0 && !bytes.empty(); --edits) {
+            const std::size_t at = random() % bytes.size(), count = 1 + random() % 8, kind = random() % 5;
+            const char c = static_cast<char>(random());
+            if (kind == 0) bytes[at] = c;
+            if (kind == 1) bytes.resize(at);
+            if (kind == 2) bytes.insert(at, count, c);
+            if (kind == 3) bytes.erase(at, count);
+            if (kind == 4) bytes.insert(at, bytes.substr(at / 2, random() % 60));
         }
-        for (bool sized : {true, false}) {
+        for (const std::size_t piece : {std::size_t(0), std::size_t(1 + random() % 64)}) {
             try {
-                const Mesh mesh = sized ? Read(bytes) : ReadPlain(bytes, 1 + random() % 64);
+                const Mesh mesh = Read(bytes, piece);
                 EXPECT_EQ(mesh.GetVertexCount(), 3 * mesh.GetTriangleCount());
                 ++meshes;
             } catch (const misc::tqSTLParserException&) {
