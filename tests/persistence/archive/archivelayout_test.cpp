@@ -8,52 +8,49 @@ using Role = ArchiveLayout::Role;
 
 TEST(ArchiveLayout, SafeNames) {
     for (const char* name : {"WorkRig.xml", "Meshes/Mesh_1.stl", "Meshes/", "a/b/c", "a.b/..c", "...", "x..",
-                             "Mesh es/ü", "a/b:c", "1:x"}) {
+                             "Mesh es/\xC3\xBC", "a/b:c", "1:x"})
         EXPECT_TRUE(ArchiveLayout::IsSafeName(name)) << name;
-    }
-    for (const std::string& name :
-         {std::string(), std::string("/"), std::string("/a"), std::string(".."), std::string("a/../b"),
-          std::string("a/.."), std::string("./a"), std::string("a/./b"), std::string("a//b"), std::string("a//"),
-          std::string("a\\b"), std::string("\\a"), std::string("C:a"), std::string("z:/a"), std::string("a\tb"),
-          std::string("a\x7f"), std::string("a\0b", 3), std::string("\x1b[2J")}) {
+    // Names that would leave the folder or could not be made in it.
+    for (const char* name : {"", "..", "../escape.stl", "Meshes/../../x", "Meshes/..", "a/../b", "/", "/tmp/x",
+                             // Backslashes and drive letters.
+                             "Meshes\\..\\x", "Meshes\\x", "\\a", "C:x", "c:/x", "z:/a",
+                             // Empty and "." segments.
+                             "Meshes//x", "//x", "a//", "a///", "./WorkRig.xml", "a/./b", "Meshes/x/.",
+                             // Control bytes.
+                             "x\x01.stl", "Meshes/x\x1f", "Meshes/\x7fx", "a\tb", "Meshes/x\n.stl", "\x1b[2J"})
         EXPECT_FALSE(ArchiveLayout::IsSafeName(name)) << name;
-    }
+    EXPECT_FALSE(ArchiveLayout::IsSafeName(std::string("a\0b", 3)));
 }
 
 TEST(ArchiveLayout, RolesAsTheFolderWalkSeesThem) {
     ArchiveLayout layout;
     for (const char* name : {"Meshes/a.stl", "WorkRig.xml", "Meshes/", "Meshes/a.stl", "meshes/b.stl", "Other/c.stl",
-                             "d.stl", "WorkRig.xml", "Meshes/e/", "Meshes/e", "Deep/er/f"})
-        ASSERT_TRUE(layout.Add(name)) << name;
-    // "Meshes/e/" made a folder inside Meshes, which the walk could not read.
-    EXPECT_FALSE(layout.Finish());
-
-    ArchiveLayout clean;
-    for (const char* name : {"Meshes/a.stl", "WorkRig.xml", "Meshes/", "Meshes/a.stl", "meshes/b.stl", "Other/c.stl",
                              "d.stl", "WorkRig.xml", "Deep/er/f"})
-        ASSERT_TRUE(clean.Add(name)) << name;
-    ASSERT_TRUE(clean.Finish());
+        ASSERT_TRUE(layout.Add(name)) << name;
+    ASSERT_TRUE(layout.Finish());
+    // A later member of the same name replaces the earlier.
     const Role expected[] = {Role::None, Role::None, Role::None,     Role::Mesh, Role::None,
                              Role::None, Role::None, Role::Document, Role::None};
-    for (std::size_t i = 0; i < 9; ++i) EXPECT_EQ(clean.GetRole(i), expected[i]) << i;
-    EXPECT_EQ(clean.GetMeshKey(3), "Meshes/a.stl");
+    for (std::size_t i = 0; i < 9; ++i) EXPECT_EQ(layout.GetRole(i), expected[i]) << i;
+    EXPECT_EQ(layout.GetMeshKey(3), "Meshes/a.stl");
+    // A folder inside "Meshes" could not be read by the walk.
+    ArchiveLayout folder;
+    ASSERT_TRUE(folder.Add("Meshes/e/"));
+    EXPECT_FALSE(folder.Finish());
 }
 
 TEST(ArchiveLayout, FilesAndFoldersOfOneName) {
     // A folder needed where a file stands cannot be made.
-    ArchiveLayout a;
-    ASSERT_TRUE(a.Add("x"));
-    EXPECT_FALSE(a.Add("x/y"));
-    ArchiveLayout b;
-    ASSERT_TRUE(b.Add("x"));
-    EXPECT_FALSE(b.Add("x/"));
+    for (const char* folder : {"x/y", "x/"}) {
+        ArchiveLayout layout;
+        ASSERT_TRUE(layout.Add("x"));
+        EXPECT_FALSE(layout.Add(folder)) << folder;
+    }
     // A file over a folder is lost; the folder stays.
-    ArchiveLayout c;
-    ASSERT_TRUE(c.Add("WorkRig.xml/"));
-    ASSERT_TRUE(c.Add("WorkRig.xml"));
-    ASSERT_TRUE(c.Finish());
-    EXPECT_EQ(c.GetRole(1), Role::None);
-    // Unsafe names are refused by Add.
-    ArchiveLayout d;
-    EXPECT_FALSE(d.Add("../x"));
+    ArchiveLayout layout;
+    ASSERT_TRUE(layout.Add("WorkRig.xml/"));
+    ASSERT_TRUE(layout.Add("WorkRig.xml"));
+    ASSERT_TRUE(layout.Finish());
+    EXPECT_EQ(layout.GetRole(1), Role::None);
+    EXPECT_FALSE(layout.Add("../x"));
 }

@@ -14,20 +14,13 @@ TEST(ObjectStringConverter, UnitSystemsRoundTrip) {
     EXPECT_EQ(ObjectStringConverter::StringToUnitSystem(u"INCH"), tqUnitsFactory::Inch);
 }
 
-TEST(ObjectStringConverter, UnknownUnitValueFails) {
-    EXPECT_THROW_CODE(ObjectStringConverter::UnitSystemToString(static_cast<tqUnitsFactory::Units>(0)),
-                      misc::tqException, 0,
-                      "tqWorkRig::ObjectStringConverter::UnitSystemToString: WR: XMLWriter::ConvertUnitsToString "
-                      "-> Unknown units!");
-    EXPECT_THROW_MSG(ObjectStringConverter::UnitSystemToString(static_cast<tqUnitsFactory::Units>(3)),
-                     misc::tqException,
-                     "tqWorkRig::ObjectStringConverter::UnitSystemToString: WR: XMLWriter::ConvertUnitsToString "
-                     "-> Unknown units!");
-}
-
-TEST(ObjectStringConverter, TextMustMatchExactly) {
-    for (const char16_t* text : {u"metric", u"Inch", u" METRIC", u"INCH ", u"", u"MM"}) {
+TEST(ObjectStringConverter, UnknownValuesAndInexactTextsFail) {
+    for (const int units : {0, 3})
+        EXPECT_THROW_CODE(ObjectStringConverter::UnitSystemToString(static_cast<tqUnitsFactory::Units>(units)),
+                          misc::tqException, 0,
+                          "tqWorkRig::ObjectStringConverter::UnitSystemToString: WR: XMLWriter::ConvertUnitsToString "
+                          "-> Unknown units!");
+    for (const char16_t* text : {u"metric", u"Inch", u" METRIC", u"INCH ", u"", u"MM"})
         EXPECT_THROW_CODE(ObjectStringConverter::StringToUnitSystem(text), misc::tqException, 0,
                           "tqWRXMLReader::GetUnitsFromString -> Unknown units!");
-    }
 }

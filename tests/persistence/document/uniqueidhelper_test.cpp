@@ -12,16 +12,11 @@ TEST(UniqueIDHelper, PrefixAndDecimalNumber) {
     EXPECT_EQ(UniqueIDHelper::MakePrefixedID("WRDockingFramePlug", 12), tqstring(u"WRDockingFramePlug12"));
 }
 
-TEST(UniqueIDHelper, FoundByAddress) {
-    const int frame = 0, station = 0;
+TEST(UniqueIDHelper, FoundByAddressOrFails) {
+    const int frame = 0, station = 0, unknown = 0;
     const UniqueIDMap ids = {{&frame, u"WRDockingFrameSocket1"}, {&station, u"WRToolMountStation2"}};
     EXPECT_EQ(UniqueIDHelper::GetFrameID(ids, &frame), tqstring(u"WRDockingFrameSocket1"));
     EXPECT_EQ(UniqueIDHelper::GetStationID(ids, &station), tqstring(u"WRToolMountStation2"));
-}
-
-TEST(UniqueIDHelper, NullAndUnknownObjectsFail) {
-    const int known = 0, unknown = 0;
-    const UniqueIDMap ids = {{&known, u"WRStockMountStation1"}};
     EXPECT_THROW_CODE(UniqueIDHelper::GetFrameID(ids, nullptr), misc::tqException, 0, "Object is null!");
     EXPECT_THROW_CODE(UniqueIDHelper::GetFrameID(ids, &unknown), misc::tqException, 0, "Object's uniqueID not found!");
     EXPECT_THROW_CODE(UniqueIDHelper::GetStationID(ids, nullptr), misc::tqException, 0, "Object is null!");
