@@ -7,21 +7,22 @@
 
 #include "misc/tqbinstream.h"
 #include "misc/tqexception.h"
+#include "stlfailure.h"
 
 namespace cadcam {
 
 namespace {
 
-constexpr const char16_t* kInvalidFormat = u"Invalid .stl file format!";
-constexpr const char16_t* kUnexpectedEnd = u"Unexpected end of input stream occurred when reading .stl file";
+using stl::Fail;
+using stl::kInvalidFormat;
+using stl::kUnexpectedEnd;
+
 constexpr const char16_t* kFacetParameters = u"Keyword 'facet' with wrong parameters found";
 constexpr const char16_t* kNoOuterLoop = u"Not detected 'outer loop' keyword";
 constexpr const char16_t* kVertexParameters = u"Keyword 'vertex' with wrong parameters found";
 constexpr const char16_t* kEndLoopFollowed = u"Found keyword 'endloop' or 'end loop' followed by other string";
 constexpr const char16_t* kEndFacetFollowed = u"Found keyword 'endfacet' or 'end facet' followed by other string";
 constexpr const char16_t* kUnknownKeyword = u"Unknown keyword found while parsing .stl file";
-
-[[noreturn]] void Fail(const char16_t* text) { throw misc::tqSTLParserException(text); }
 
 constexpr std::size_t kBlockSize = 1 << 16;
 // Longer than any keyword or any number worth reading; longer words are scanned, not kept.

@@ -19,6 +19,7 @@
 #include "misc/tqbinstream.h"
 #include "misc/tqbufferedbinaryifstream.h"
 #include "misc/tqexception.h"
+#include "stlfailure.h"
 #include "misc/tqmemoryiostream.h"
 
 #if defined(__BYTE_ORDER__) && __BYTE_ORDER__ != __ORDER_LITTLE_ENDIAN__
@@ -29,9 +30,11 @@ namespace cadcam {
 
 namespace {
 
-constexpr const char16_t* kInvalidFormat = u"Invalid .stl file format!";
-constexpr const char16_t* kInvalidCount = u"Invalid number of triangles found in .stl file!";
-constexpr const char16_t* kUnexpectedEnd = u"Unexpected end of input stream occurred when reading .stl file";
+using stl::Fail;
+using stl::kInvalidFormat;
+using stl::kUnexpectedEnd;
+using stl::kInvalidCount;
+
 constexpr const char16_t* kReadLabel = u"read triangle data";
 constexpr const char16_t* kFinishLabel = u"finish mesh";
 
@@ -45,7 +48,6 @@ constexpr std::uint64_t kMaxVertices = std::uint64_t(std::numeric_limits<std::ui
 constexpr double kClamp = 3.0000000054977558e+38;
 constexpr double kSmallest = 1.1754943508222875e-38;
 
-[[noreturn]] void Fail(const misc::tqstring& text) { throw misc::tqSTLParserException(text); }
 
 [[noreturn]] void CannotWrite(const misc::tqstring& name) { Fail(u"Can not use " + name + u" to write an STL file."); }
 
