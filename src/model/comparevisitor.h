@@ -5,10 +5,12 @@
 
 #include "misc/tqautopointer.h"
 #include "misc/tqexception.h"
-#include "model/typedvisitor.h"
+#include "misc/tqtypedvisitor.h"
 
 namespace tqWorkRig {
 namespace detail_ {
+
+using misc::detail_::TypedVisitor;
 
 /// Compares two objects of the closed set List through Visitor: the first dispatch learns the left operand's
 /// class, the second the right one's. Different classes are unequal; the same class uses that class's

@@ -45,4 +45,9 @@ void tqMeasurable::SetUnits(tqUnitsFactory::Units units, bool suppressScaling) {
     Scale(units, factor);
 }
 
+void tqMeasurable::ScaleNested(tqMeasurable& nested, tqUnitsFactory::Units units, const double& factor) {
+    nested.m_units = units;
+    nested.Scale(units, factor);
+}
+
 }  // namespace measures

@@ -27,6 +27,9 @@ public:
 protected:
     /// Multiplies the object's own lengths by factor; units is the new unit system.
     virtual void Scale(tqUnitsFactory::Units units, const double& factor) = 0;
+    /// Retags a part of this object with units and scales it by factor, the factor of the whole object, so that
+    /// nested parts follow their owner even when they carried other units.
+    static void ScaleNested(tqMeasurable& nested, tqUnitsFactory::Units units, const double& factor);
 
 private:
     tqUnitsFactory::Units m_units;

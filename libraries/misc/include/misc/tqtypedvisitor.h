@@ -1,11 +1,9 @@
 // TypedVisitor: a visitor interface implemented once for every class of a closed type list.
 #pragma once
 
-#include <type_traits>
-
 #include "misc/tqtypelist.h"
 
-namespace tqWorkRig {
+namespace misc {
 namespace detail_ {
 
 /// Implements the slot Visit(const T&) by handing the visited object to Derived::OnVisit.
@@ -34,7 +32,6 @@ struct TypedVisitorChain<Derived, Visitor, Base, misc::tqTypeList<>> {
 
 template <class Derived, class Visitor, class Base, class T, class... Rest>
 struct TypedVisitorChain<Derived, Visitor, Base, misc::tqTypeList<T, Rest...>> {
-    static_assert(std::is_base_of<Base, T>::value, "every class of the list derives from the visited base");
     using type = OneVisitFunctionImplementer<Derived, T,
                                              typename TypedVisitorChain<Derived, Visitor, Base,
                                                                         misc::tqTypeList<Rest...>>::type>;
@@ -48,4 +45,4 @@ template <class Derived, class Visitor, class Base, class List>
 using TypedVisitor = typename TypedVisitorChain<Derived, Visitor, Base, List>::type;
 
 }  // namespace detail_
-}  // namespace tqWorkRig
+}  // namespace misc
