@@ -87,6 +87,78 @@ void PrintArchiveMembers(const std::string& path) {
 
 }  // namespace
 
+// A revolved solid from a polyline profile (X the radius, Y the height).
+tqAutoPointer<cadcam::tqSolidDefinition<double>> RevolvedPolyline(std::initializer_list<cadcam::tqPoint2d> points) {
+    cadcam::tq2dContour<double> profile;
+    const cadcam::tqPoint2d* previous = nullptr;
+    for (const auto& p : points) {
+        if (previous != nullptr) {
+            profile.Append(tqAutoPointer<cadcam::tq2dGeometry<double>>(new cadcam::tq2dLine<double>(*previous, p)));
+        }
+        previous = &p;
+    }
+    return tqAutoPointer<cadcam::tqSolidDefinition<double>>(
+        new cadcam::tqRevolvedSolidDefinition<double>(tqUnitsFactory::Metric, profile));
+}
+
+void PrintRevolvedTool(const cadcam::tqTypedRevolvedTool& tool, const char* extra) {
+    const auto& extender = tool.GetShoulderDefinitionExtender();
+    std::printf("  %-22s %s: diameter %g, flute length %g, shoulder length %g, shank %g from %g%s\n",
+                cadcam::tqToolFinder(tool).GetClassName(), UnitsName(tool.GetUnits()), tool.GetDiameter(),
+                tool.GetFluteLength(), tool.GetShoulderLength(), extender.GetDiameter(), extender.GetLength(), extra);
+}
+
+// Catalogue tools are checked when they are built; a host reads them through getters and visitors.
+void CatalogueTools() {
+    using namespace cadcam;
+    const tqTool::ArborPointer arbor(new tqArborDefinition<double>(
+        tqUnitsFactory::Metric, RevolvedPolyline({{0, 0}, {12, 0}, {17, 30}, {17, 45}})));
+    const tqTool::HolderPointer holder(new tqHolderDefinition<double>(
+        tqUnitsFactory::Metric, RevolvedPolyline({{0, 0}, {25, 0}, {25, 15}, {32, 15}, {32, 35}, {22, 70}})));
+
+    std::printf("\nCatalogue tools:\n");
+    const tqEndMill endMill(tqUnitsFactory::Metric, arbor, holder, 10, 22, 35);
+    PrintRevolvedTool(endMill, "");
+    const tqBullMill bullMill(tqUnitsFactory::Metric, arbor, holder, 12, 25, 40, 2);
+    char extra[64];
+    std::snprintf(extra, sizeof extra, ", corner radius %g", bullMill.GetCornerRadius());
+    PrintRevolvedTool(bullMill, extra);
+    const tqDrill drill(tqUnitsFactory::Metric, arbor, holder, 8.5, 45, 60, 118);
+    std::snprintf(extra, sizeof extra, ", tip angle %g", drill.GetTipAngle());
+    PrintRevolvedTool(drill, extra);
+
+    using Turning = tqTurningSolidDefinition<double>;
+    const tqAutoPointer<tqSolidDefinition<double>> turningSolid(
+        new Turning(tqUnitsFactory::Metric, 125, Turning::H_RIGHT, Turning::SK_RECTANGULAR, Turning::IN_TRIANGLE,
+                    Turning::GENERIC_TYPE_A, 25, 25, 32, 32, 0, 0, 0, 0, 0));
+    const tqTool::HolderPointer turningHolder(new tqHolderDefinition<double>(tqUnitsFactory::Metric, turningSolid));
+    const tqTool::ArborPointer noArbor(new tqArborDefinition<double>(
+        tqUnitsFactory::Metric,
+        tqAutoPointer<tqSolidDefinition<double>>(new tqRevolvedSolidDefinition<double>(tqUnitsFactory::Metric))));
+    const tqTriangleTurningTool insert(tqUnitsFactory::Metric, noArbor, turningHolder, 4.76, 0.8, 12.7);
+    const Turning& held = tqTurningSolidDefinitionExtractor<double>::Extract(*insert.GetHolder()->GetSolid());
+    std::printf("  %-22s %s: insert thickness %g, corner radius %g, inscribed circle %g; holder height %g, A %g, "
+                "B %g, C %g, D %g\n",
+                tqToolFinder(insert).GetClassName(), UnitsName(insert.GetUnits()), insert.GetInsertThickness(),
+                insert.GetCornerRadius(), insert.GetInscribedCircleDiameter(), held.GetHeight(),
+                held.GetParameter('A'), held.GetParameter('B'), held.GetParameter('C'), held.GetParameter('D'));
+
+    // A change of units scales lengths and leaves angles; the tool it was copied from stays as it was.
+    tqAutoPointer<tqTool> inchDrill = drill.Clone();
+    inchDrill->SetUnits(tqUnitsFactory::Inch);
+    const auto& converted = static_cast<const tqDrill&>(*inchDrill);
+    std::snprintf(extra, sizeof extra, ", tip angle %g", converted.GetTipAngle());
+    PrintRevolvedTool(converted, extra);
+    std::printf("  the copy equals the drill: %s\n", inchDrill->IsEqual(drill) ? "yes" : "no");
+
+    try {
+        tqBullMill tooRound(tqUnitsFactory::Metric, arbor, holder, 6, 20, 30, 4);
+    } catch (const tqcadcamException& e) {
+        std::printf("  a bull mill with corner radius 4 on diameter 6 is refused: %d \"%s\"\n", e.GetCode(),
+                    Utf8(e.GetMessage()).c_str());
+    }
+}
+
 int main() {
     using namespace tqWorkRig;
 
@@ -152,6 +224,8 @@ int main() {
     std::printf("Archive members:\n");
     PrintArchiveMembers(rigFile);
     std::filesystem::remove_all(folder);
+
+    CatalogueTools();
 
     // Misuse ends in the library's exceptions, with their codes and texts.
     try {

@@ -37,6 +37,26 @@ int main() {
     tqWorkRig::Mesh geometry(mesh, u"part");
     failures += Check(geometry.GetMesh()->GetTriangleCount() == 1, "Mesh geometry");
 
+    // A catalogue tool, and visitor slots called directly (resolved at compile time in this host).
+    const cadcam::tqEndMill endMill(measures::tqUnitsFactory::Metric, cadcam::tqTool::ArborPointer(),
+                                    cadcam::tqTool::HolderPointer(), 10, 20, 30);
+    cadcam::tqToolCloner cloner;
+    cloner.Visit(endMill);
+    failures += Check(cloner.GetClone()->IsEqual(endMill), "tqToolCloner");
+    cadcam::tqToolFinder finder;
+    finder.Visit(endMill);
+    failures += Check(std::string(finder.GetClassName()) == "tqEndMill", "tqToolFinder");
+    cadcam::tqSolidDefinitionTypeFinder<double> solidKind(cadcam::tqRevolvedSolidDefinition<double>(
+        measures::tqUnitsFactory::Metric));
+    failures += Check(solidKind.GetType() == cadcam::SDT_REVOLVED, "tqSolidDefinitionTypeFinder");
+    try {
+        cadcam::tqBullMill(measures::tqUnitsFactory::Metric, cadcam::tqTool::ArborPointer(),
+                           cadcam::tqTool::HolderPointer(), 6, 20, 30, 4);
+        failures += Check(false, "tqBullMill refuses a corner radius above the radius");
+    } catch (const cadcam::tqcadcamException& e) {
+        failures += Check(e.GetCode() == 2117, "tqcadcamException code");
+    }
+
     const cadcam::tq2dArc<double> arc({1, 0}, {0, 1}, {0, 0}, cadcam::tqArcDirection::Counterclockwise);
     failures += Check(arc.GetSweep() == 90.0, "tq2dArc sweep");
     failures += Check(cadcam::tqMatrix<double, 4, 4>::Identity() == cadcam::tqMatrix<double, 4, 4>(), "tqMatrix");

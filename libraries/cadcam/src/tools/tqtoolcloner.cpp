@@ -15,7 +15,7 @@ void tqToolCloner::OnVisitBase(const tqTool&) {
     misc::ThrowFailure(u"cadcam::tqToolCloner::Visit", u"Trying to clone an abstract type.");
 }
 
-tqToolCloner::tqToolCloner() = default;
+tqToolCloner::tqToolCloner() { misc::detail_::KeepSlots<tqToolCloner>(static_cast<tqToolList*>(nullptr)); }
 tqToolCloner::~tqToolCloner() = default;
 
 misc::tqAutoPointer<tqTool> tqToolCloner::Clone(const tqTool& tool) {

@@ -35,7 +35,9 @@ private:
 
 }  // namespace
 
-tqToolComparator::tqToolComparator(const tqTool& right) : m_right(right), m_result(false) {}
+tqToolComparator::tqToolComparator(const tqTool& right) : m_right(right), m_result(false) {
+    misc::detail_::KeepSlots<tqToolComparator>(static_cast<tqToolList*>(nullptr));
+}
 tqToolComparator::~tqToolComparator() = default;
 
 bool tqToolComparator::Compare(const tqTool& left, const tqTool& right) {

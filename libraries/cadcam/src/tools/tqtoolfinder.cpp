@@ -73,7 +73,9 @@ struct IndexOf<T, misc::tqTypeList<U, Ts...>>
 
 constexpr std::size_t tqToolFinder::kNotFound;
 
-tqToolFinder::tqToolFinder() : m_index(kNotFound) {}
+tqToolFinder::tqToolFinder() : m_index(kNotFound) {
+    misc::detail_::KeepSlots<tqToolFinder>(static_cast<tqToolList*>(nullptr));
+}
 
 tqToolFinder::tqToolFinder(const tqTool& tool) : m_index(kNotFound) { tool.AcceptVisitor(*this); }
 

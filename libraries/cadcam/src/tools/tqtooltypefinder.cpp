@@ -28,6 +28,7 @@ constexpr tqToolTypes::ToolFamily FamilyOf() {
 
 tqToolTypeFinder::tqToolTypeFinder(const tqTool& tool)
     : m_representation(tqToolTypes::TR_TYPED), m_family(tqToolTypes::TF_REVOLVED) {
+    misc::detail_::KeepSlots<tqToolTypeFinder>(static_cast<tqToolList*>(nullptr));
     tool.AcceptVisitor(*this);
 }
 

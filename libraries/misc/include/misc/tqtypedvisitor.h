@@ -1,6 +1,8 @@
 // TypedVisitor: a visitor interface implemented once for every class of a closed type list.
 #pragma once
 
+#include <tuple>
+
 #include "misc/tqtypelist.h"
 
 namespace misc {
@@ -43,6 +45,14 @@ struct TypedVisitorChain<Derived, Visitor, Base, misc::tqTypeList<T, Rest...>> {
 /// compile at `override`.
 template <class Derived, class Visitor, class Base, class List>
 using TypedVisitor = typename TypedVisitorChain<Derived, Visitor, Base, List>::type;
+
+/// Keeps an out-of-line Derived::OnVisit<T> for every T of the list in the library, so that a host whose call of
+/// a slot is resolved at compile time links. Called once from the visitor's out-of-line constructor.
+template <class Derived, class... Ts>
+void KeepSlots(tqTypeList<Ts...>*) {
+    [[gnu::used]] static const auto slots = std::make_tuple(&Derived::template OnVisit<Ts>...);
+    static_cast<void>(slots);
+}
 
 }  // namespace detail_
 }  // namespace misc

@@ -34,6 +34,9 @@ public:
         double m_length;
     };
 
+    /// How a corner is rounded: not at all, with the given radius, or with the largest radius that fits.
+    enum CornerRadiusType : int { CRT_NONE = 0, CRT_CORNER = 1, CRT_FULL = 2 };
+
     ~tqTypedRevolvedTool() override;
 
     double GetDiameter() const override { return m_diameter; }

@@ -1,14 +1,64 @@
 // tqBoreBar: its parameters and their checks.
 #include "cadcam/tools/revolved/tqborebar.h"
 
+#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
+
+tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                     double diameter, double fluteLength, double shoulderLength, double cornerRadius,
+                     CornerRadiusType cornerRadiusType, double taperAngle)
+    : tqBoreBar(units, arbor, holder, diameter, fluteLength, shoulderLength, cornerRadius, cornerRadiusType, taperAngle,
+                nullptr) {}
+
+tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                     double diameter, double fluteLength, double shoulderLength, double cornerRadius,
+                     CornerRadiusType cornerRadiusType, double taperAngle, const tqShoulderDefinitionExtender& extender)
+    : tqBoreBar(units, arbor, holder, diameter, fluteLength, shoulderLength, cornerRadius, cornerRadiusType, taperAngle,
+                &extender) {}
+
+tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                     double diameter, double fluteLength, double shoulderLength, double cornerRadius,
+                     CornerRadiusType cornerRadiusType, double taperAngle, const tqShoulderDefinitionExtender* extender)
+    : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender, CommonRules()),
+      m_cornerRadius(cornerRadius),
+      m_cornerRadiusType(cornerRadiusType),
+      m_taperAngle(taperAngle) {
+    if (!(cornerRadiusType == CRT_NONE || cornerRadiusType == CRT_CORNER || cornerRadiusType == CRT_FULL)) {
+        throw tqcadcamException(2109);
+    }
+    if (!(cornerRadius >= 0)) throw tqcadcamException(2163);
+    if (!(taperAngle >= 0.1 && taperAngle <= 89)) throw tqcadcamException(2122);
+
+    const double radius = diameter / 2;
+    const double topRadius = radius - fluteLength * shape::TanDegrees(taperAngle);
+    const shape::Point bottom(radius, 0);
+    const shape::Point top(topRadius, fluteLength);
+    const shape::CornerFillet corner =
+        shape::MakeCornerFillet(shape::Point(0, 0), bottom, top, cornerRadiusType, cornerRadius);
+    // The side must stay off the axis and the fillet must fit the bottom; then it must fit the side.
+    const double t = corner.fillet.t;
+    if (!(topRadius > 0 && t <= corner.la)) throw tqcadcamException(2024);
+    if (!(t <= corner.lb)) throw tqcadcamException(3476);
+
+    const shape::HeadPath head = shape::RoundedPolyline({shape::Point(0, 0), bottom, top}, 1, corner);
+    SetDefaultExtender(shape::ClipRadiusAt(head, fluteLength));
+}
 
 tqBoreBar::~tqBoreBar() = default;
 
 void tqBoreBar::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 
-bool tqBoreBar::operator==(const tqBoreBar& other) const { return BaseEquals(other); }
+bool tqBoreBar::operator==(const tqBoreBar& other) const {
+    return BaseEquals(other) && m_cornerRadius == other.m_cornerRadius &&
+           m_cornerRadiusType == other.m_cornerRadiusType && m_taperAngle == other.m_taperAngle;
+}
+
+void tqBoreBar::Scale(measures::tqUnitsFactory::Units units, const double& factor) {
+    m_cornerRadius *= factor;
+    tqTypedRevolvedTool::Scale(units, factor);
+}
 
 }  // namespace cadcam

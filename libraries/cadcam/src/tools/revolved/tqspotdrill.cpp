@@ -1,14 +1,39 @@
 // tqSpotDrill: its parameters and their checks.
 #include "cadcam/tools/revolved/tqspotdrill.h"
 
+#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/profiletoolkit.h"
 
 namespace cadcam {
+
+tqSpotDrill::tqSpotDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                         double diameter, double fluteLength, double shoulderLength, double tipAngle)
+    : tqSpotDrill(units, arbor, holder, diameter, fluteLength, shoulderLength, tipAngle, nullptr) {}
+
+tqSpotDrill::tqSpotDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                         double diameter, double fluteLength, double shoulderLength, double tipAngle,
+                         const tqShoulderDefinitionExtender& extender)
+    : tqSpotDrill(units, arbor, holder, diameter, fluteLength, shoulderLength, tipAngle, &extender) {}
+
+tqSpotDrill::tqSpotDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                         double diameter, double fluteLength, double shoulderLength, double tipAngle,
+                         const tqShoulderDefinitionExtender* extender)
+    : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender, CommonRules()),
+      m_tipAngle(tipAngle) {
+    if (!(tipAngle >= 1 && tipAngle <= 180)) throw tqcadcamException(2113);
+    const double radius = diameter / 2;
+    if (!(shape::ConeHeight(radius, tipAngle / 2) <= fluteLength)) throw tqcadcamException(2112);
+    // The point reaches the tool radius within the flutes; the side rises there to the flute length.
+    SetDefaultExtender(radius);
+}
 
 tqSpotDrill::~tqSpotDrill() = default;
 
 void tqSpotDrill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 
-bool tqSpotDrill::operator==(const tqSpotDrill& other) const { return BaseEquals(other); }
+bool tqSpotDrill::operator==(const tqSpotDrill& other) const {
+    return BaseEquals(other) && m_tipAngle == other.m_tipAngle;
+}
 
 }  // namespace cadcam

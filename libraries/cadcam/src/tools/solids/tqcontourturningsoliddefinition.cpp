@@ -1,7 +1,9 @@
-// tqContourTurningSolidDefinition: instantiated for float and double.
+// tqContourTurningSolidDefinition: the check of its contour; instantiated for float and double.
 #include "cadcam/tools/solids/tqcontourturningsoliddefinition.h"
 
+#include "cadcam/geometry/tq2dcontourproperties.h"
 #include "cadcam/tools/solids/tqsoliddefinitionvisitorgetter.h"
+#include "cadcam/tools/tqcadcamexception.h"
 
 namespace cadcam {
 
@@ -9,7 +11,9 @@ template <class T>
 tqContourTurningSolidDefinition<T>::tqContourTurningSolidDefinition(measures::tqUnitsFactory::Units units, T height,
                                                                     Hand hand, Shank shank,
                                                                     const tq2dContour<T>& contour)
-    : tqTypedExtrudedSolidDefinition<T>(units, height, hand, shank), m_contour(contour) {}
+    : tqTypedExtrudedSolidDefinition<T>(units, height, hand, shank), m_contour(contour) {
+    if (!tqIsClosedContinuousAndSimple(contour)) throw tqcadcamException(3415);
+}
 
 template <class T>
 tqContourTurningSolidDefinition<T>::tqContourTurningSolidDefinition(const tqContourTurningSolidDefinition&) = default;

@@ -1,9 +1,13 @@
-// tqGenericSawingTool: its parameters and their checks.
+// tqGenericSawingTool: the blade thickness, checked by its base.
 #include "cadcam/tools/special/tqgenericsawingtool.h"
 
 #include "cadcam/tools/tqtoolvisitor.h"
 
 namespace cadcam {
+
+tqGenericSawingTool::tqGenericSawingTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
+                                         const HolderPointer& holder, double bladeThickness)
+    : tqSawingTool(units, arbor, holder, bladeThickness) {}
 
 tqGenericSawingTool::~tqGenericSawingTool() = default;
 

@@ -1,4 +1,4 @@
-// tqWireTool: its parameters and their checks.
+// tqWireTool: its parameters; a wire has no rules.
 #include "cadcam/tools/special/tqwiretool.h"
 
 #include "cadcam/tools/tqtoolbranchvisitor.h"
@@ -6,12 +6,28 @@
 
 namespace cadcam {
 
+tqWireTool::tqWireTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                       double wireDiameter, double wireLength, bool hasInfiniteLength)
+    : tqTool(units, arbor, holder),
+      m_wireDiameter(wireDiameter),
+      m_wireLength(wireLength),
+      m_hasInfiniteLength(hasInfiniteLength) {}
+
 tqWireTool::~tqWireTool() = default;
 
 void tqWireTool::AcceptBranchVisitor(tqToolBranchVisitor& visitor) const { visitor.Visit(*this); }
 
 void tqWireTool::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 
-bool tqWireTool::operator==(const tqWireTool& other) const { return BaseEquals(other); }
+bool tqWireTool::operator==(const tqWireTool& other) const {
+    return BaseEquals(other) && m_wireDiameter == other.m_wireDiameter && m_wireLength == other.m_wireLength &&
+           m_hasInfiniteLength == other.m_hasInfiniteLength;
+}
+
+void tqWireTool::Scale(measures::tqUnitsFactory::Units units, const double& factor) {
+    m_wireDiameter *= factor;
+    m_wireLength *= factor;
+    tqTool::Scale(units, factor);
+}
 
 }  // namespace cadcam

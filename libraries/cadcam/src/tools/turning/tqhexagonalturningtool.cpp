@@ -1,14 +1,35 @@
 // tqHexagonalTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqhexagonalturningtool.h"
 
+#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 
 namespace cadcam {
+
+tqHexagonalTurningTool::tqHexagonalTurningTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
+                                               const HolderPointer& holder, double insertThickness, double cornerRadius,
+                                               double inscribedCircleDiameter)
+    : tqTypedExtrudedTool(units, arbor, holder, insertThickness),
+      m_cornerRadius(cornerRadius),
+      m_inscribedCircleDiameter(inscribedCircleDiameter) {
+    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
+    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
+    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+}
 
 tqHexagonalTurningTool::~tqHexagonalTurningTool() = default;
 
 void tqHexagonalTurningTool::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 
-bool tqHexagonalTurningTool::operator==(const tqHexagonalTurningTool& other) const { return BaseEquals(other); }
+bool tqHexagonalTurningTool::operator==(const tqHexagonalTurningTool& other) const {
+    return BaseEquals(other) && m_cornerRadius == other.m_cornerRadius &&
+           m_inscribedCircleDiameter == other.m_inscribedCircleDiameter;
+}
+
+void tqHexagonalTurningTool::Scale(measures::tqUnitsFactory::Units units, const double& factor) {
+    m_cornerRadius *= factor;
+    m_inscribedCircleDiameter *= factor;
+    tqTypedExtrudedTool::Scale(units, factor);
+}
 
 }  // namespace cadcam

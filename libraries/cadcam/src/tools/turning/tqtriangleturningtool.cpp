@@ -1,14 +1,35 @@
 // tqTriangleTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqtriangleturningtool.h"
 
+#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 
 namespace cadcam {
+
+tqTriangleTurningTool::tqTriangleTurningTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
+                                             const HolderPointer& holder, double insertThickness, double cornerRadius,
+                                             double inscribedCircleDiameter)
+    : tqTypedExtrudedTool(units, arbor, holder, insertThickness),
+      m_cornerRadius(cornerRadius),
+      m_inscribedCircleDiameter(inscribedCircleDiameter) {
+    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
+    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
+    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+}
 
 tqTriangleTurningTool::~tqTriangleTurningTool() = default;
 
 void tqTriangleTurningTool::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 
-bool tqTriangleTurningTool::operator==(const tqTriangleTurningTool& other) const { return BaseEquals(other); }
+bool tqTriangleTurningTool::operator==(const tqTriangleTurningTool& other) const {
+    return BaseEquals(other) && m_cornerRadius == other.m_cornerRadius &&
+           m_inscribedCircleDiameter == other.m_inscribedCircleDiameter;
+}
+
+void tqTriangleTurningTool::Scale(measures::tqUnitsFactory::Units units, const double& factor) {
+    m_cornerRadius *= factor;
+    m_inscribedCircleDiameter *= factor;
+    tqTypedExtrudedTool::Scale(units, factor);
+}
 
 }  // namespace cadcam

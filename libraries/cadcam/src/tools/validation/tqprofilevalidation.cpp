@@ -2,6 +2,7 @@
 #include "cadcam/tools/validation/tqprofilevalidation.h"
 
 #include <cmath>
+#include <cstddef>
 
 #include "cadcam/geometry/tq2darc.h"
 #include "cadcam/geometry/tq2dcontour.h"

@@ -5,9 +5,17 @@
 
 namespace cadcam {
 
-/// A sphere (ball) mill.
+/// A sphere (ball) mill: a half ball of the tool diameter, then a cylinder up to the flute length.
 class TQ_EXPORT tqSpherMill : public tqTypedRevolvedTool {
 public:
+    /// With the default shoulder extender. Throws tqcadcamException for the first broken common rule.
+    tqSpherMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                double diameter, double fluteLength, double shoulderLength);
+    /// With a given shoulder extender, whose own rules ran when it was made; 2187 unless its base length lies
+    /// between flute and shoulder length.
+    tqSpherMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                double diameter, double fluteLength, double shoulderLength,
+                const tqShoulderDefinitionExtender& extender);
     tqSpherMill(const tqSpherMill&) = default;
     tqSpherMill& operator=(const tqSpherMill&) = default;
     ~tqSpherMill() override;
@@ -17,6 +25,11 @@ public:
     /// Exact: the same units, holder, arbor and parameters.
     bool operator==(const tqSpherMill& other) const;
     bool operator!=(const tqSpherMill& other) const { return !(*this == other); }
+
+private:
+    tqSpherMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                double diameter, double fluteLength, double shoulderLength,
+                const tqShoulderDefinitionExtender* extender);
 };
 
 }  // namespace cadcam

@@ -5,18 +5,37 @@
 
 namespace cadcam {
 
-/// A spot drill.
+/// A spot drill: a point cone of the tip angle up to the tool diameter, then a cylinder up to the flute length.
 class TQ_EXPORT tqSpotDrill : public tqTypedRevolvedTool {
 public:
+    /// With the default shoulder extender. Throws tqcadcamException for the first broken rule: the common ones, then
+    /// 2113 unless 1 <= tipAngle <= 180, 2112 unless the point ends within the flutes.
+    tqSpotDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                double diameter, double fluteLength, double shoulderLength, double tipAngle);
+    /// With a given shoulder extender, whose own rules ran when it was made; 2187 unless its base length lies
+    /// between flute and shoulder length.
+    tqSpotDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                double diameter, double fluteLength, double shoulderLength, double tipAngle,
+                const tqShoulderDefinitionExtender& extender);
     tqSpotDrill(const tqSpotDrill&) = default;
     tqSpotDrill& operator=(const tqSpotDrill&) = default;
     ~tqSpotDrill() override;
+
+    /// The included angle of the point, in degrees.
+    double GetTipAngle() const { return m_tipAngle; }
 
     void AcceptVisitor(tqToolVisitor& visitor) const override;
 
     /// Exact: the same units, holder, arbor and parameters.
     bool operator==(const tqSpotDrill& other) const;
     bool operator!=(const tqSpotDrill& other) const { return !(*this == other); }
+
+private:
+    tqSpotDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
+                double diameter, double fluteLength, double shoulderLength, double tipAngle,
+                const tqShoulderDefinitionExtender* extender);
+
+    double m_tipAngle;
 };
 
 }  // namespace cadcam

@@ -1,0 +1,38 @@
+// tqMeshSolidExtractor: a solid definition as the mesh solid it has to be.
+#pragma once
+
+#include "cadcam/tools/solids/tqmeshsoliddefinition.h"
+#include "cadcam/tools/solids/tqsoliddefinitionvisitorgetter.h"
+
+namespace cadcam {
+
+/// Yields the visited solid as a tqMeshSolidDefinition. Any other kind fails with tqcadcamException 2172, the
+/// abstract base with 2177; a failed visit leaves the extractor as it was.
+template <class T>
+class TQ_EXPORT tqMeshSolidExtractor : public tqSolidDefinitionVisitorGetter<T> {
+public:
+    /// Lets solid accept the extractor.
+    explicit tqMeshSolidExtractor(const tqSolidDefinition<T>& solid);
+    ~tqMeshSolidExtractor() override;
+
+    /// solid as its class; the reference is into solid.
+    static const tqMeshSolidDefinition<T>& Extract(const tqSolidDefinition<T>& solid);
+    /// The solid extracted last.
+    const tqMeshSolidDefinition<T>& GetSolid() const { return *m_solid; }
+
+    void Visit(const tqWireSolidDefinition<T>& solid) override;
+    void Visit(const tqContourTurningSolidDefinition<T>& solid) override;
+    void Visit(const tqTurningSolidDefinition<T>& solid) override;
+    void Visit(const tqMeshSolidDefinition<T>& solid) override;
+    void Visit(const tqExtrudedSolidDefinition<T>& solid) override;
+    void Visit(const tqRevolvedSolidDefinition<T>& solid) override;
+    [[noreturn]] void Visit(const tqSolidDefinition<T>& solid) override;
+
+private:
+    const tqMeshSolidDefinition<T>* m_solid = nullptr;
+};
+
+extern template class TQ_EXPORT tqMeshSolidExtractor<double>;
+extern template class TQ_EXPORT tqMeshSolidExtractor<float>;
+
+}  // namespace cadcam

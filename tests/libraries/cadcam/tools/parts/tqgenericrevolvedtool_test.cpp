@@ -1,0 +1,93 @@
+// tqGenericRevolvedTool: its parts, its diameter over their profiles, equality part by part and units.
+#include "cadcam/tools/revolved/tqgenericrevolvedtool.h"
+
+#include "cadcam/tools/solids/tqmeshsoliddefinition.h"
+#include "partsamples.h"
+
+namespace {
+
+using namespace cadcam;
+using tqtest::Profile;
+using PartList = tqGenericRevolvedTool::PartList;
+
+const tqTool::ArborPointer kArbor(new tqArborDefinition<double>(tqtest::kMetric, tqtest::Head(15, 40)));
+const tqTool::HolderPointer kHolder(new tqHolderDefinition<double>(tqtest::kMetric, tqtest::Head(30, 60)));
+
+tqGenericRevolvedTool Tool(const PartList& parts, measures::tqUnitsFactory::Units units = tqtest::kMetric) {
+    return tqGenericRevolvedTool(units, kArbor, kHolder, parts);
+}
+
+TEST(tqGenericRevolvedTool, KeepsItsPartsSharedInOrder) {
+    const PartList parts = {tqtest::Cutting(tqtest::Head()), tqtest::NonCutting(tqtest::Shank())};
+    const tqGenericRevolvedTool tool = Tool(parts, tqtest::kInch);
+    EXPECT_EQ(tool.GetUnits(), tqtest::kInch);
+    EXPECT_EQ(tool.GetArbor().Get(), kArbor.Get());
+    EXPECT_EQ(tool.GetHolder().Get(), kHolder.Get());
+    EXPECT_TRUE(tqtest::SameParts(tool.GetParts().GetParts(), parts));
+    EXPECT_TRUE(Tool({}).GetParts().IsEmpty());
+    // A copy, as the tool cloner makes, shares the parts too.
+    const auto clone = tool.Clone();
+    EXPECT_EQ(static_cast<const tqGenericRevolvedTool&>(*clone).GetParts().GetPart(1).Get(), parts[1].Get());
+}
+
+TEST(tqGenericRevolvedTool, RefusesHoldersAndArborsAmongItsParts) {
+    const auto cutting = tqtest::Cutting(tqtest::Head());
+    EXPECT_THROW_CODE(Tool({cutting, kHolder}), tqcadcamException, 2184, u"Unknown tool part definition.");
+    EXPECT_THROW_CODE(Tool({kArbor}), tqcadcamException, 2184, u"Unknown tool part definition.");
+    EXPECT_THROW_MSG(Tool({cutting, tqtest::PartPointer()}), misc::tqException, u"Accessing TQ_NULL pointer");
+}
+
+TEST(tqGenericRevolvedTool, TheDiameterIsTwiceTheLargestXOfTheProfiles) {
+    const tqtest::SolidPointer mesh(new tqMeshSolidDefinition<double>(tqtest::kMetric));
+    const tqtest::SolidPointer empty(new tqRevolvedSolidDefinition<double>(tqtest::kMetric));
+    const struct {
+        PartList parts;
+        double diameter;
+    } cases[] = {
+        {{}, 0},
+        {{tqtest::Cutting(mesh), tqtest::NonCutting(empty)}, 0},
+        {{tqtest::Cutting(tqtest::Head(5)), tqtest::NonCutting(tqtest::Shank(5, 6))}, 12},
+        {{tqtest::Cutting(tqtest::Head(5)), tqtest::Cutting(mesh)}, 10},
+        // A half circle bulging out to x = 7 between end points at x = 4.
+        {{tqtest::Cutting(Profile(0, 0).L(4, 0).A(4, 6, 4, 3).L(4, 10).Solid())}, 14},
+        // A concave corner whose circle reaches x = 6 outside the arc's sweep.
+        {{tqtest::Cutting(Profile(0, 0).L(4, 0).A(5, 1, 5, 0, false).L(5, 10).Solid())}, 10},
+    };
+    for (std::size_t i = 0; i < sizeof(cases) / sizeof(cases[0]); ++i) {
+        EXPECT_EQ(Tool(cases[i].parts).GetDiameter(), cases[i].diameter) << "case " << i;
+    }
+}
+
+TEST(tqGenericRevolvedTool, EqualityIsPartByPartInOrder) {
+    const auto cutting = tqtest::Cutting(tqtest::Head()), nonCutting = tqtest::NonCutting(tqtest::Shank());
+    const tqGenericRevolvedTool tool = Tool({cutting, nonCutting});
+    EXPECT_EQ(tool, Tool({tqtest::Cutting(tqtest::Head()), tqtest::NonCutting(tqtest::Shank())}));
+    EXPECT_NE(tool, Tool({nonCutting, cutting}));
+    EXPECT_NE(tool, Tool({cutting}));
+    EXPECT_NE(tool, Tool({cutting, tqtest::Cutting(tqtest::Shank())}));
+    EXPECT_NE(tool, Tool({cutting, nonCutting}, tqtest::kInch));
+    EXPECT_NE(tool, tqGenericRevolvedTool(tqtest::kMetric, kArbor, tqTool::HolderPointer(), {cutting, nonCutting}));
+    EXPECT_TRUE(tool.IsEqual(Tool({cutting, nonCutting})));
+}
+
+TEST(tqGenericRevolvedTool, SetUnitsScalesCopiesOfItsParts) {
+    const PartList parts = {tqtest::Cutting(tqtest::Head()), tqtest::NonCutting(tqtest::Shank())};
+    const tqGenericRevolvedTool source = Tool(parts);
+    tqGenericRevolvedTool tool = source;
+    tool.SetUnits(tqtest::kInch);
+    EXPECT_DOUBLE_EQ(tool.GetDiameter(), 12 / 25.4);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const auto& part = tool.GetParts().GetPart(i);
+        EXPECT_NE(part.Get(), parts[i].Get());
+        EXPECT_EQ(part->GetUnits(), tqtest::kInch);
+        EXPECT_EQ(part->GetSolid()->GetUnits(), tqtest::kInch);
+    }
+    EXPECT_TRUE(tool.GetParts().GetPart(1).DynamicCast<tqNonCuttingPartDefinition<double>>().IsNotNull());
+    EXPECT_EQ(tool.GetHolder()->GetUnits(), tqtest::kInch);
+    // The parts the source shares are untouched.
+    EXPECT_EQ(source.GetDiameter(), 12);
+    EXPECT_EQ(parts[0]->GetUnits(), tqtest::kMetric);
+    EXPECT_EQ(source, Tool({tqtest::Cutting(tqtest::Head()), tqtest::NonCutting(tqtest::Shank())}));
+}
+
+}  // namespace

@@ -1,0 +1,110 @@
+// tqEndMill: the common rules of the typed revolved tools, the shoulder extender and its default.
+#include "cadcam/tools/revolved/tqendmill.h"
+
+#include "drillingtestutil.h"
+
+namespace {
+
+using cadcam::tqEndMill;
+using Extender = cadcam::tqTypedRevolvedTool::tqShoulderDefinitionExtender;
+using namespace drillingtest;
+
+struct P {
+    double d = 10, lf = 20, ls = 40;
+    bool extender = false;
+    double ds = 12, lb = 30;
+};
+P With(void (*change)(P&)) {
+    P p;
+    change(p);
+    return p;
+}
+tqEndMill Make(const P& p) {
+    if (p.extender) return tqEndMill(kMetric, {}, {}, p.d, p.lf, p.ls, Extender(kMetric, p.ds, p.lb));
+    return tqEndMill(kMetric, {}, {}, p.d, p.lf, p.ls);
+}
+
+const char* const kDiameter = "Invalid tool diameter";
+const char* const kFlute = "Invalid flute length";
+const char* const kShoulder = "Invalid shoulder length";
+const char* const kBase = "Shoulder base length must be >= flute length and <= shoulder length";
+
+TEST(tqEndMill, BuildsWithTheDefaultExtenderAtTheFlutes) {
+    const tqEndMill mill = Make(P());
+    EXPECT_EQ(mill.GetDiameter(), 10);
+    EXPECT_EQ(mill.GetFluteLength(), 20);
+    EXPECT_EQ(mill.GetShoulderLength(), 40);
+    EXPECT_EQ(mill.GetShoulderDefinitionExtender(), Extender(kMetric, 10, 20));
+    EXPECT_EQ(mill.GetShoulderDefinitionExtender().GetUnits(), kMetric);
+
+    const tqEndMill given = Make(With([](P& p) { p.extender = true; }));
+    EXPECT_EQ(given.GetShoulderDefinitionExtender().GetDiameter(), 12);
+    EXPECT_EQ(given.GetShoulderDefinitionExtender().GetLength(), 30);
+    EXPECT_NE(given, mill);
+    EXPECT_EQ(given, Make(With([](P& p) { p.extender = true; })));
+    // A given extender equal to the default one makes an equal tool.
+    EXPECT_EQ(Make(With([](P& p) { p.extender = true, p.ds = 10, p.lb = 20; })), mill);
+}
+
+TEST(tqEndMill, CommonRulesFireAtTheirBoundariesInOrder) {
+    ExpectRules<P>({{With([](P& p) { p.d = 0; }), 2105, kDiameter},
+                    {With([](P& p) { p.d = -1; }), 2105, kDiameter},
+                    {With([](P& p) { p.d = kInf; }), 2105, kDiameter},
+                    {With([](P& p) { p.d = kNaN; }), 2105, kDiameter},
+                    {With([](P& p) { p.lf = 0; }), 2103, kFlute},
+                    {With([](P& p) { p.lf = kInf, p.ls = kInf; }), 2103, kFlute},
+                    {With([](P& p) { p.lf = kNaN; }), 2103, kFlute},
+                    {With([](P& p) { p.ls = Down(20); }), 2107, kShoulder},
+                    {With([](P& p) { p.ls = kInf; }), 2107, kShoulder},
+                    {With([](P& p) { p.ls = kNaN; }), 2107, kShoulder},
+                    {With([](P& p) { p.extender = true, p.lb = Down(20); }), 2187, kBase},
+                    {With([](P& p) { p.extender = true, p.lb = Up(40); }), 2187, kBase},
+                    // The first broken rule decides.
+                    {With([](P& p) { p.d = 0, p.lf = 0; }), 2105, kDiameter},
+                    {With([](P& p) { p.lf = kNaN, p.ls = 1; }), 2103, kFlute},
+                    {With([](P& p) { p.ls = 10, p.extender = true, p.lb = 50; }), 2107, kShoulder}},
+                   Make);
+    ExpectBuilds<P>(
+        {With([](P& p) { p.d = std::numeric_limits<double>::denorm_min(); }),
+         With([](P& p) { p.lf = std::numeric_limits<double>::denorm_min(); }), With([](P& p) { p.ls = 20; }),
+         With([](P& p) { p.extender = true, p.lb = 20; }), With([](P& p) { p.extender = true, p.lb = 40; }),
+         // The extender may be narrower than the tool.
+         With([](P& p) { p.extender = true, p.ds = 1; })},
+        Make);
+}
+
+TEST(tqEndMill, ExtenderRulesFireAtTheirBoundariesInOrder) {
+    const double tiny = std::numeric_limits<double>::denorm_min();
+    EXPECT_NO_THROW(Extender(kMetric, tiny, tiny));
+    EXPECT_THROW_CODE(Extender(kMetric, 0, 1), cadcam::tqcadcamException, 2185, "Invalid shoulder diameter");
+    EXPECT_THROW_CODE(Extender(kMetric, kNaN, 1), cadcam::tqcadcamException, 2185, "Invalid shoulder diameter");
+    EXPECT_THROW_CODE(Extender(kMetric, 1, 0), cadcam::tqcadcamException, 2186, "Invalid shoulder base length");
+    EXPECT_THROW_CODE(Extender(kMetric, 1, kNaN), cadcam::tqcadcamException, 2186, "Invalid shoulder base length");
+    EXPECT_THROW_CODE(Extender(kMetric, kInf, 1), cadcam::tqcadcamException, 3473, "cadcam error 3473.");
+    EXPECT_THROW_CODE(Extender(kMetric, 1, kInf), cadcam::tqcadcamException, 3473, "cadcam error 3473.");
+    EXPECT_THROW_CODE(Extender(kMetric, -1, -1), cadcam::tqcadcamException, 2185, "Invalid shoulder diameter");
+    EXPECT_THROW_CODE(Extender(kMetric, kInf, -1), cadcam::tqcadcamException, 2186, "Invalid shoulder base length");
+    // The extender is built before the tool looks at its own parameters.
+    EXPECT_THROW_CODE(tqEndMill(kMetric, {}, {}, 0, 20, 40, Extender(kMetric, 0, 30)), cadcam::tqcadcamException, 2185,
+                      "Invalid shoulder diameter");
+}
+
+TEST(tqEndMill, ScalesTheCommonLengthsAndTheExtender) {
+    for (const bool given : {false, true}) {
+        SCOPED_TRACE(given);
+        P p;
+        p.extender = given;
+        tqEndMill mill = Make(p);
+        mill.SetUnits(kInch);
+        EXPECT_EQ(mill.GetUnits(), kInch);
+        EXPECT_EQ(mill.GetDiameter(), 10 * (1 / 25.4));
+        EXPECT_EQ(mill.GetFluteLength(), 20 * (1 / 25.4));
+        EXPECT_EQ(mill.GetShoulderLength(), 40 * (1 / 25.4));
+        const Extender& e = mill.GetShoulderDefinitionExtender();
+        EXPECT_EQ(e.GetUnits(), kInch);
+        EXPECT_EQ(e.GetDiameter(), (given ? 12 : 10) * (1 / 25.4));
+        EXPECT_EQ(e.GetLength(), (given ? 30 : 20) * (1 / 25.4));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,32 @@
+// tqPotGrinderTool: a pot grinder has only the common parameters, their rules and the default extender.
+#include "cadcam/tools/revolved/tqpotgrindertool.h"
+
+#include "drillingtestutil.h"
+
+namespace {
+
+using cadcam::tqPotGrinderTool;
+using Extender = cadcam::tqTypedRevolvedTool::tqShoulderDefinitionExtender;
+using namespace drillingtest;
+
+TEST(tqPotGrinderTool, BuildsWithTheDefaultExtenderAtTheFlutes) {
+    const tqPotGrinderTool tool(kMetric, {}, {}, 10, 20, 40);
+    EXPECT_EQ(tool.GetDiameter(), 10);
+    EXPECT_EQ(tool.GetFluteLength(), 20);
+    EXPECT_EQ(tool.GetShoulderLength(), 40);
+    EXPECT_EQ(tool.GetShoulderDefinitionExtender(), Extender(kMetric, 10, 20));
+    EXPECT_EQ(tool, tqPotGrinderTool(kMetric, {}, {}, 10, 20, 40, Extender(kMetric, 10, 20)));
+    EXPECT_NE(tool, tqPotGrinderTool(kMetric, {}, {}, 10, 20, 40, Extender(kMetric, 10, 25)));
+}
+
+TEST(tqPotGrinderTool, RunsTheCommonRules) {
+    EXPECT_THROW_CODE(tqPotGrinderTool(kMetric, {}, {}, 0, 20, 40), cadcam::tqcadcamException, 2105,
+                      "Invalid tool diameter");
+    EXPECT_THROW_CODE(tqPotGrinderTool(kMetric, {}, {}, 10, Up(40), 40), cadcam::tqcadcamException, 2107,
+                      "Invalid shoulder length");
+    EXPECT_THROW_CODE(tqPotGrinderTool(kMetric, {}, {}, 10, 20, 40, Extender(kMetric, 10, Down(20))),
+                      cadcam::tqcadcamException, 2187,
+                      "Shoulder base length must be >= flute length and <= shoulder length");
+}
+
+}  // namespace

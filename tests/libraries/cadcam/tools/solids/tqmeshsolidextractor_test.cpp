@@ -1,0 +1,15 @@
+// tqMeshSolidExtractor: yields a tqMeshSolidDefinition and refuses every other kind with 2172.
+#include "cadcam/tools/solids/tqmeshsolidextractor.h"
+
+#include "solidsamples.h"
+
+namespace {
+
+TEST(tqMeshSolidExtractor, YieldsItsKindAndRefusesTheOthers) {
+    tqtest::ExpectExtractsOnly<cadcam::tqMeshSolidExtractor<double>, cadcam::tqMeshSolidDefinition<double>, double>(
+        cadcam::SDT_MESH, 2172, u"Couldn't handle mesh solid definition");
+    tqtest::ExpectExtractsOnly<cadcam::tqMeshSolidExtractor<float>, cadcam::tqMeshSolidDefinition<float>, float>(
+        cadcam::SDT_MESH, 2172, u"Couldn't handle mesh solid definition");
+}
+
+}  // namespace

@@ -1,0 +1,17 @@
+// tqTurningSolidDefinitionExtractor: yields a tqTurningSolidDefinition and refuses every other kind with 2030.
+#include "cadcam/tools/solids/tqturningsoliddefinitionextractor.h"
+
+#include "solidsamples.h"
+
+namespace {
+
+TEST(tqTurningSolidDefinitionExtractor, YieldsItsKindAndRefusesTheOthers) {
+    tqtest::ExpectExtractsOnly<cadcam::tqTurningSolidDefinitionExtractor<double>,
+                               cadcam::tqTurningSolidDefinition<double>, double>(
+        cadcam::SDT_TURNING, 2030, u"Could not handle turning solid definition.");
+    tqtest::ExpectExtractsOnly<cadcam::tqTurningSolidDefinitionExtractor<float>,
+                               cadcam::tqTurningSolidDefinition<float>, float>(
+        cadcam::SDT_TURNING, 2030, u"Could not handle turning solid definition.");
+}
+
+}  // namespace

@@ -1,0 +1,102 @@
+// tqChainSawTool: its rules in order, and the fit of the tip rounding for both blade outlines.
+#include "cadcam/tools/special/tqchainsawtool.h"
+
+#include <cmath>
+#include <limits>
+
+#include "specialtestsupport.h"
+
+namespace specialtest {
+namespace {
+
+using cadcam::tqChainSawTool;
+using E = cadcam::tqcadcamException;
+
+struct Saw {
+    double r;
+    int radiusType;
+    int sawType;
+    double width, thickness, length, straight, upper;
+};
+
+tqChainSawTool Make(const Saw& s) {
+    return tqChainSawTool(
+        kMetric, Arbor(), Holder(), s.r, static_cast<tqChainSawTool::SawCornerRadiusType>(s.radiusType),
+        static_cast<tqChainSawTool::ChainSawType>(s.sawType), s.width, s.thickness, s.length, s.straight, s.upper);
+}
+
+const Saw kStraight{2, tqChainSawTool::SCRT_CORNER, tqChainSawTool::CST_STRAIGHT, 10, 1.5, 100, 0, 10};
+const Saw kSimple{2, tqChainSawTool::SCRT_CORNER, tqChainSawTool::CST_SIMPLE, 10, 1.5, 100, 60, 6};
+
+Saw With(Saw s, double Saw::*field, double value) {
+    s.*field = value;
+    return s;
+}
+
+TEST(tqChainSawTool, ATypicalBladeReadsBackAndScales) {
+    const tqChainSawTool saw = Make(kSimple);
+    EXPECT_EQ(saw.GetCornerRadius(), 2);
+    EXPECT_EQ(saw.GetCornerRadiusType(), tqChainSawTool::SCRT_CORNER);
+    EXPECT_EQ(saw.GetChainSawType(), tqChainSawTool::CST_SIMPLE);
+    EXPECT_EQ(saw.GetBladeWidth(), 10);
+    EXPECT_EQ(saw.GetBladeThickness(), 1.5);
+    EXPECT_EQ(saw.GetBladeLength(), 100);
+    EXPECT_EQ(saw.GetStraightBladeLength(), 60);
+    EXPECT_EQ(saw.GetBladeUpperWidth(), 6);
+    ExpectScaledByUnits<tqChainSawTool>(
+        saw,
+        [](const tqChainSawTool& t) {
+            return std::vector<double>{t.GetCornerRadius(), t.GetBladeWidth(),          t.GetBladeThickness(),
+                                       t.GetBladeLength(),  t.GetStraightBladeLength(), t.GetBladeUpperWidth()};
+        },
+        [](const tqChainSawTool& t) {
+            return std::vector<double>{double(t.GetCornerRadiusType()), double(t.GetChainSawType())};
+        });
+}
+
+TEST(tqChainSawTool, EachRuleFiresAtItsBoundaryInOrder) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const Saw broken{-1, 2, 2, 0, 0, 0, 1, 0};
+    EXPECT_THROW_CODE(Make(broken), E, 2302, "Invalid blade thickness for Sawing tool, must be greater than 0");
+    EXPECT_THROW_CODE(Make(With(broken, &Saw::thickness, 1)), E, 2109, "Unknown corner radius type");
+    EXPECT_THROW_CODE(Make({-1, -1, 0, 10, 1, 100, 0, 10}), E, 2109, "Unknown corner radius type");
+    EXPECT_THROW_CODE(Make({-1, 1, 2, 0, 1, 0, 1, 0}), E, 2141, "Invalid tool definition");
+    EXPECT_THROW_CODE(Make({-1, 1, -1, 0, 1, 0, 1, 0}), E, 2141, "Invalid tool definition");
+    EXPECT_THROW_CODE(Make({-1, 1, 1, nan, 1, 0, 1, 0}), E, 2303,
+                      "Invalid blade width for Sawing tool, must be greater than 0");
+    EXPECT_THROW_CODE(Make({-1, 1, 1, 10, 1, 0, 1, 0}), E, 2304,
+                      "Invalid blade length for Sawing tool, must be greater than 0");
+    EXPECT_THROW_CODE(Make({-1, 1, 1, 10, 1, std::nextafter(60.0, 0.0), 60, 0}), E, 2306,
+                      "Blade length must be >= straight blade length for Sawing tool");
+    EXPECT_THROW_CODE(Make(With(kStraight, &Saw::straight, nan)), E, 2306,
+                      "Blade length must be >= straight blade length for Sawing tool");
+    EXPECT_THROW_CODE(Make({-1, 1, 1, 10, 1, 60, 60, 0}), E, 2307,
+                      "Invalid blade upper width for Sawing tool, must be greater than 0");
+    EXPECT_THROW_CODE(Make(With(kSimple, &Saw::r, -std::numeric_limits<double>::denorm_min())), E, 2163,
+                      "Invalid corner radius, it must be >= 0.");
+    EXPECT_THROW_CODE(Make(With(kSimple, &Saw::r, nan)), E, 2163, "Invalid corner radius, it must be >= 0.");
+    EXPECT_NO_THROW(Make(With(kSimple, &Saw::r, 0)));
+    EXPECT_NO_THROW(Make(With(kSimple, &Saw::length, 60)));
+}
+
+TEST(tqChainSawTool, TheTipRoundingMustFitTheBlade) {
+    const char* text = "Invalid corner radius, it must be >= 0.";
+    // Both tip fillets share the tip edge: each may take half of the width.
+    EXPECT_NO_THROW(Make(With(kStraight, &Saw::r, 5)));
+    EXPECT_THROW_CODE(Make(With(kStraight, &Saw::r, 5 * (1 + 1e-12))), E, 2163, text);
+    // A full radius is half the width whatever the corner radius, and needs sides that long.
+    Saw full = With(kStraight, &Saw::r, 1000);
+    full.radiusType = tqChainSawTool::SCRT_FULL;
+    EXPECT_NO_THROW(Make(full));
+    EXPECT_NO_THROW(Make(With(full, &Saw::length, 5)));
+    EXPECT_THROW_CODE(Make(With(full, &Saw::length, 4.9)), E, 2163, text);
+    // The simple blade's straight part bounds the fillet; without one the side runs to the upper width.
+    EXPECT_NO_THROW(Make(With(With(kSimple, &Saw::straight, 3), &Saw::r, 3)));
+    EXPECT_THROW_CODE(Make(With(With(kSimple, &Saw::straight, 3), &Saw::r, 3.01)), E, 2163, text);
+    EXPECT_NO_THROW(Make(With(With(With(kSimple, &Saw::straight, 0), &Saw::upper, 20), &Saw::r, 4.9)));
+    // The straight blade ignores the straight length beyond the length rule.
+    EXPECT_NO_THROW(Make(With(kStraight, &Saw::straight, -50)));
+}
+
+}  // namespace
+}  // namespace specialtest

@@ -1,0 +1,113 @@
+// tqOpticDiamondTool: its rules in order, the flank height against the length, and the nose fit per radius type.
+#include "cadcam/tools/special/tqopticdiamondtool.h"
+
+#include <cmath>
+#include <limits>
+
+#include "specialtestsupport.h"
+#include "tools/shape/profiletoolkit.h"
+
+namespace specialtest {
+namespace {
+
+using cadcam::tqOpticDiamondTool;
+using E = cadcam::tqcadcamException;
+
+struct Optic {
+    double radius, included;
+    int clearanceType;
+    double clearance, rake;
+    int radiusType;
+    double length, width, thickness;
+};
+
+tqOpticDiamondTool Make(const Optic& o) {
+    return tqOpticDiamondTool(kMetric, Arbor(), Holder(), o.radius, o.included,
+                              static_cast<tqOpticDiamondTool::ClearanceType>(o.clearanceType), o.clearance, o.rake,
+                              static_cast<tqOpticDiamondTool::RadiusType>(o.radiusType), o.length, o.width,
+                              o.thickness);
+}
+
+const Optic kFull{0.5, 60, tqOpticDiamondTool::CT_CONICAL, 7, 0, tqOpticDiamondTool::RT_FULL, 10, 4, 1};
+
+Optic With(Optic o, double Optic::*field, double value) {
+    o.*field = value;
+    return o;
+}
+Optic Type(Optic o, int radiusType) {
+    o.radiusType = radiusType;
+    return o;
+}
+
+TEST(tqOpticDiamondTool, ATypicalToolReadsBackAndScales) {
+    const tqOpticDiamondTool tool = Make({0.5, 60, 1, 7, -5, 2, 10, 4, 1});
+    EXPECT_EQ(tool.GetRadius(), 0.5);
+    EXPECT_EQ(tool.GetIncludedAngle(), 60);
+    EXPECT_EQ(tool.GetClearanceType(), tqOpticDiamondTool::CT_CYLINDRICAL);
+    EXPECT_EQ(tool.GetClearanceAngle(), 7);
+    EXPECT_EQ(tool.GetRakeAngle(), -5);
+    EXPECT_EQ(tool.GetRadiusType(), tqOpticDiamondTool::RT_RIGHT);
+    EXPECT_EQ(tool.GetLength(), 10);
+    EXPECT_EQ(tool.GetWidth(), 4);
+    EXPECT_EQ(tool.GetThickness(), 1);
+    ExpectScaledByUnits<tqOpticDiamondTool>(
+        tool,
+        [](const tqOpticDiamondTool& t) {
+            return std::vector<double>{t.GetRadius(), t.GetLength(), t.GetWidth(), t.GetThickness()};
+        },
+        [](const tqOpticDiamondTool& t) {
+            return std::vector<double>{t.GetIncludedAngle(), double(t.GetClearanceType()), t.GetClearanceAngle(),
+                                       t.GetRakeAngle(), double(t.GetRadiusType())};
+        });
+}
+
+TEST(tqOpticDiamondTool, EachRuleFiresAtItsBoundaryInOrder) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const char* radiusText = "Radius must be greater than zero.";
+    const char* includedText = "Included angle must be between zero and ninety degrees.";
+    const char* rakeText = "Rake angle must be between negative ninety and ninety degrees.";
+    const char* clearanceText = "Clearance angle must be between zero and ninety degrees.";
+    const char* sizeText = "Length, width, and thickness must be greater than zero.";
+    EXPECT_THROW_CODE(Make({0, 0, 2, 0, 90, 0, 0, 0, 0}), E, 2141, "Invalid tool definition");
+    EXPECT_THROW_CODE(Make({0, 0, 0, 0, 90, 3, 0, 0, 0}), E, 2141, "Invalid tool definition");
+    EXPECT_THROW_CODE(Make({0, 0, 0, 0, 90, 0, 0, 0, 0}), E, 3400, radiusText);
+    EXPECT_THROW_CODE(Make(With(kFull, &Optic::radius, nan)), E, 3400, radiusText);
+    for (double angle : {0.0, 90.0, nan}) {
+        EXPECT_THROW_CODE(Make({1, angle, 0, 0, 90, 0, 0, 0, 0}), E, 3401, includedText);
+        EXPECT_THROW_CODE(Make(With(kFull, &Optic::clearance, angle)), E, 3403, clearanceText);
+    }
+    for (double angle : {-90.0, 90.0, nan}) {
+        EXPECT_THROW_CODE(Make({1, 60, 0, 0, angle, 0, 0, 0, 0}), E, 3402, rakeText);
+    }
+    EXPECT_THROW_CODE(Make({1, 60, 0, 0, 0, 0, 0, 0, 0}), E, 3403, clearanceText);
+    for (double Optic::*size : {&Optic::length, &Optic::width, &Optic::thickness}) {
+        EXPECT_THROW_CODE(Make(With(With(kFull, size, 0), &Optic::radius, 100)), E, 3404, sizeText);
+    }
+    EXPECT_NO_THROW(Make(With(kFull, &Optic::included, std::nextafter(90.0, 0.0))));
+    EXPECT_NO_THROW(Make(With(kFull, &Optic::rake, std::nextafter(-90.0, 0.0))));
+    EXPECT_NO_THROW(Make(With(kFull, &Optic::clearance, std::nextafter(0.0, 1.0))));
+    // The flanks reach the full width at hw, below the length: (W/2)/tan(IA/2), one-sided (W/2)/tan IA.
+    const double hwFull = 4.0 / 2 / cadcam::shape::TanDegrees(60.0 / 2);
+    EXPECT_THROW_CODE(Make(With(kFull, &Optic::length, hwFull)), E, 3404, sizeText);
+    EXPECT_NO_THROW(Make(With(kFull, &Optic::length, std::nextafter(hwFull, 10.0))));
+    const double hwSide = 4.0 / 2 / cadcam::shape::TanDegrees(60.0);
+    EXPECT_THROW_CODE(Make(Type(With(kFull, &Optic::length, hwSide), 1)), E, 3404, sizeText);
+    EXPECT_NO_THROW(Make(Type(With(kFull, &Optic::length, std::nextafter(hwSide, 10.0)), 2)));
+}
+
+TEST(tqOpticDiamondTool, TheNoseMustFitItsEdges) {
+    const char* radiusText = "Radius must be greater than zero.";
+    // Full: both flanks are 4 long and turn by 120°, so t = r·tan 60° <= 4.
+    const double fullLimit = 4 / cadcam::shape::TanDegrees(60);
+    EXPECT_NO_THROW(Make(With(kFull, &Optic::radius, fullLimit * (1 - 1e-12))));
+    EXPECT_THROW_CODE(Make(With(kFull, &Optic::radius, fullLimit * (1 + 1e-12))), E, 3400, radiusText);
+    // Left and right: the flank is (W/2)/sin 60° long, the axis side the whole length.
+    const double sideLimit = 2 / cadcam::shape::SinDegrees(60) / cadcam::shape::TanDegrees(60);
+    for (int type : {1, 2}) {
+        EXPECT_NO_THROW(Make(Type(With(kFull, &Optic::radius, sideLimit * (1 - 1e-12)), type)));
+        EXPECT_THROW_CODE(Make(Type(With(kFull, &Optic::radius, sideLimit * (1 + 1e-12)), type)), E, 3400, radiusText);
+    }
+}
+
+}  // namespace
+}  // namespace specialtest

@@ -1,0 +1,29 @@
+// tqWireTool: any values are taken; lengths scale, the flag does not.
+#include "cadcam/tools/special/tqwiretool.h"
+
+#include <limits>
+
+#include "specialtestsupport.h"
+
+namespace specialtest {
+namespace {
+
+using cadcam::tqWireTool;
+
+TEST(tqWireTool, TakesAnyValuesAndScalesItsLengths) {
+    const tqWireTool wire(kMetric, Arbor(), Holder(), 0.25, 400, false);
+    EXPECT_EQ(wire.GetWireDiameter(), 0.25);
+    EXPECT_EQ(wire.GetWireLength(), 400);
+    EXPECT_FALSE(wire.HasInfiniteLength());
+    EXPECT_NO_THROW(
+        tqWireTool(kMetric, ArborPointer(), HolderPointer(), -1, std::numeric_limits<double>::quiet_NaN(), true));
+    ExpectScaledByUnits<tqWireTool>(
+        tqWireTool(kMetric, Arbor(), Holder(), 0.25, 400, true),
+        [](const tqWireTool& t) {
+            return std::vector<double>{t.GetWireDiameter(), t.GetWireLength()};
+        },
+        [](const tqWireTool& t) { return std::vector<double>{double(t.HasInfiniteLength())}; });
+}
+
+}  // namespace
+}  // namespace specialtest
