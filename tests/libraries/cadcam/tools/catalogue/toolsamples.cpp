@@ -31,7 +31,7 @@ const SampleTable& AllSamples() {
         AddMillingSamples(t);
         AddBarrelSamples(t);
         AddTurningSamples(t);
-        AddSpecialSamples(t);
+        AddOtherSamples(t);
         AddGenericRevolvedSamples(t);
         return t;
     }();

@@ -43,7 +43,7 @@ void AddDrillingSamples(SampleTable& table);
 void AddMillingSamples(SampleTable& table);
 void AddBarrelSamples(SampleTable& table);
 void AddTurningSamples(SampleTable& table);
-void AddSpecialSamples(SampleTable& table);
+void AddOtherSamples(SampleTable& table);
 void AddGenericRevolvedSamples(SampleTable& table);
 
 /// The default milling arbor and holder in the given units: revolved profiles without arcs.

@@ -1,12 +1,12 @@
 // tqChainSawTool: its rules in order, and the fit of the tip rounding for both blade outlines.
-#include "cadcam/tools/special/tqchainsawtool.h"
+#include "cadcam/tools/other/tqchainsawtool.h"
 
 #include <cmath>
 #include <limits>
 
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqChainSawTool;
@@ -99,4 +99,4 @@ TEST(tqChainSawTool, TheTipRoundingMustFitTheBlade) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

@@ -1,17 +1,17 @@
-// Samples of the special tools: saws, wire, speed shape, optic diamond, and the generic extruded and generic tools.
+// Samples of the other tool families: saws, wire, speed shape, optic diamond, and the generic extruded and generic tools.
 #include <functional>
 
 #include "cadcam/geometry/tq2dline.h"
 #include "cadcam/tools/parts/tqalltoolpartdefinitions.h"
 #include "cadcam/tools/solids/tqextrudedsoliddefinition.h"
 #include "cadcam/tools/solids/tqrevolvedsoliddefinition.h"
-#include "cadcam/tools/special/tqchainsawtool.h"
-#include "cadcam/tools/special/tqgenericextrudedtool.h"
-#include "cadcam/tools/special/tqgenericsawingtool.h"
-#include "cadcam/tools/special/tqgenerictool.h"
-#include "cadcam/tools/special/tqopticdiamondtool.h"
-#include "cadcam/tools/special/tqspeedshapetool.h"
-#include "cadcam/tools/special/tqwiretool.h"
+#include "cadcam/tools/other/tqchainsawtool.h"
+#include "cadcam/tools/other/tqgenericextrudedtool.h"
+#include "cadcam/tools/other/tqgenericsawingtool.h"
+#include "cadcam/tools/other/tqgenerictool.h"
+#include "cadcam/tools/other/tqopticdiamondtool.h"
+#include "cadcam/tools/other/tqspeedshapetool.h"
+#include "cadcam/tools/other/tqwiretool.h"
 #include "toolsamples.h"
 
 namespace tqtest {
@@ -144,7 +144,7 @@ ToolSample GenericSample() {
 
 }  // namespace
 
-void AddSpecialSamples(SampleTable& table) {
+void AddOtherSamples(SampleTable& table) {
     using C = tqChainSawTool;
     AddSample<tqChainSawTool>(
         table, Sample<tqChainSawTool, Saw>(

@@ -1,5 +1,5 @@
 // tqGenericSawingTool: the blade thickness, checked by its base.
-#include "cadcam/tools/special/tqgenericsawingtool.h"
+#include "cadcam/tools/other/tqgenericsawingtool.h"
 
 #include "cadcam/tools/tqtoolvisitor.h"
 

@@ -1,9 +1,9 @@
 // tqSpeedShapeTool: any values are taken; lengths scale, angles do not.
-#include "cadcam/tools/special/tqspeedshapetool.h"
+#include "cadcam/tools/other/tqspeedshapetool.h"
 
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqSpeedShapeTool;
@@ -24,4 +24,4 @@ TEST(tqSpeedShapeTool, TakesAnyValuesAndScalesOnlyLengths) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

@@ -1,11 +1,11 @@
 // tqWireTool: any values are taken; lengths scale, the flag does not.
-#include "cadcam/tools/special/tqwiretool.h"
+#include "cadcam/tools/other/tqwiretool.h"
 
 #include <limits>
 
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqWireTool;
@@ -26,4 +26,4 @@ TEST(tqWireTool, TakesAnyValuesAndScalesItsLengths) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

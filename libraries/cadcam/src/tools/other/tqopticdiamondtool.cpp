@@ -1,5 +1,5 @@
 // tqOpticDiamondTool: its parameters and their checks, with the fit of the nose.
-#include "cadcam/tools/special/tqopticdiamondtool.h"
+#include "cadcam/tools/other/tqopticdiamondtool.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolbranchvisitor.h"

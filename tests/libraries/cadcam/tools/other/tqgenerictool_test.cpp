@@ -1,13 +1,13 @@
 // tqGenericTool: its four groups, the refusal of null and non-isometric placements, equality and scaling.
-#include "cadcam/tools/special/tqgenerictool.h"
+#include "cadcam/tools/other/tqgenerictool.h"
 
 #include <cmath>
 #include <limits>
 
 #include "cadcam/tools/parts/tqalltoolpartdefinitions.h"
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqGenericTool;
@@ -108,4 +108,4 @@ TEST(tqGenericTool, UnitsScaleTranslationsAndCopiesOfTheParts) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

@@ -1,4 +1,4 @@
-// Holders, arbors and revolved solids for the tests of the special tool families, and a units check.
+// Holders, arbors and revolved solids for the tests of the other tool families, and a units check.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@
 #include "cadcam/tools/tqtool.h"
 #include "support/tqtest.h"
 
-namespace specialtest {
+namespace othertest {
 
 using Units = measures::tqUnitsFactory::Units;
 constexpr Units kMetric = measures::tqUnitsFactory::Metric;
@@ -56,4 +56,4 @@ void ExpectScaledByUnits(const Tool& tool, const std::function<std::vector<doubl
     EXPECT_EQ(lengths(tool), before) << "the original keeps its lengths";
 }
 
-}  // namespace specialtest
+}  // namespace othertest

@@ -1,5 +1,5 @@
 // tqGenericExtrudedTool: its one solid, held as a cutting part.
-#include "cadcam/tools/special/tqgenericextrudedtool.h"
+#include "cadcam/tools/other/tqgenericextrudedtool.h"
 
 #include "cadcam/tools/parts/tqcuttingpartdefinition.h"
 #include "cadcam/tools/tqtoolvisitor.h"

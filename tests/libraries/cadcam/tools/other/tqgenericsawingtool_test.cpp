@@ -1,12 +1,12 @@
 // tqGenericSawingTool: the blade thickness rule, equality and scaling.
-#include "cadcam/tools/special/tqgenericsawingtool.h"
+#include "cadcam/tools/other/tqgenericsawingtool.h"
 
 #include <cmath>
 #include <limits>
 
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqGenericSawingTool;
@@ -25,4 +25,4 @@ TEST(tqGenericSawingTool, TheBladeThicknessMustBePositive) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

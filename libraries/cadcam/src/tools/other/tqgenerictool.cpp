@@ -1,5 +1,5 @@
 // tqGenericTool: its four groups of positioned parts, the isometry check, equality and scaling.
-#include "cadcam/tools/special/tqgenerictool.h"
+#include "cadcam/tools/other/tqgenerictool.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // tqWireTool: its parameters; a wire has no rules.
-#include "cadcam/tools/special/tqwiretool.h"
+#include "cadcam/tools/other/tqwiretool.h"
 
 #include "cadcam/tools/tqtoolbranchvisitor.h"
 #include "cadcam/tools/tqtoolvisitor.h"

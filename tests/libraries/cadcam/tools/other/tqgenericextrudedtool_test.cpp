@@ -1,11 +1,11 @@
 // tqGenericExtrudedTool: its one solid as a shared cutting part, the refusals, equality and scaling.
-#include "cadcam/tools/special/tqgenericextrudedtool.h"
+#include "cadcam/tools/other/tqgenericextrudedtool.h"
 
 #include "cadcam/tools/parts/tqcuttingpartdefinition.h"
 #include "cadcam/tools/solids/tqextrudedsoliddefinition.h"
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqGenericExtrudedTool;
@@ -53,4 +53,4 @@ TEST(tqGenericExtrudedTool, UnitsScaleACopyOfTheSolid) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

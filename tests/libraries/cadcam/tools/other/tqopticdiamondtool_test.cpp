@@ -1,13 +1,13 @@
 // tqOpticDiamondTool: its rules in order, the flank height against the length, and the nose fit per radius type.
-#include "cadcam/tools/special/tqopticdiamondtool.h"
+#include "cadcam/tools/other/tqopticdiamondtool.h"
 
 #include <cmath>
 #include <limits>
 
-#include "specialtestsupport.h"
+#include "othertestsupport.h"
 #include "tools/shape/profiletoolkit.h"
 
-namespace specialtest {
+namespace othertest {
 namespace {
 
 using cadcam::tqOpticDiamondTool;
@@ -110,4 +110,4 @@ TEST(tqOpticDiamondTool, TheNoseMustFitItsEdges) {
 }
 
 }  // namespace
-}  // namespace specialtest
+}  // namespace othertest

@@ -1,5 +1,5 @@
 // tqSpeedShapeTool: its parameters; a speed shape tool has no rules.
-#include "cadcam/tools/special/tqspeedshapetool.h"
+#include "cadcam/tools/other/tqspeedshapetool.h"
 
 #include "cadcam/tools/tqtoolbranchvisitor.h"
 #include "cadcam/tools/tqtoolvisitor.h"

@@ -1,5 +1,5 @@
 // tqChainSawTool: its parameters and their checks, with the fit of the tip rounding.
-#include "cadcam/tools/special/tqchainsawtool.h"
+#include "cadcam/tools/other/tqchainsawtool.h"
 
 #include <algorithm>
 #include <cmath>
