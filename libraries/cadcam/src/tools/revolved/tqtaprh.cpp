@@ -1,9 +1,8 @@
 // tqTapRH: its parameters and their checks.
 #include "cadcam/tools/revolved/tqtaprh.h"
 
-#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
-#include "tools/shape/drillingshapes.h"
+#include "tools/revolved/tapchecks.h"
 
 namespace cadcam {
 
@@ -29,19 +28,9 @@ tqTapRH::tqTapRH(measures::tqUnitsFactory::Units units, const ArborPointer& arbo
       m_cornerRadiusType(cornerRadiusType),
       m_tipAngle(tipAngle),
       m_threadsNumber(threadsNumber) {
-    if (!(cornerRadiusType == CRT_NONE || cornerRadiusType == CRT_CORNER || cornerRadiusType == CRT_FULL)) {
-        throw tqcadcamException(2109);
-    }
-    if (!(cornerRadius >= 0)) throw tqcadcamException(2163);
-    if (!(tipAngle >= 1 && tipAngle <= 180)) throw tqcadcamException(2113);
-    const double radius = diameter / 2;
-    const double lead = shape::ConeHeight(radius, tipAngle / 2);
-    const shape::SideCorner corner =
-        shape::MakeSideCorner(shape::Point(0, 0), radius, lead, fluteLength,
-                              cornerRadiusType == CRT_CORNER ? cornerRadius : 0, cornerRadiusType == CRT_FULL);
-    if (!(corner.top <= fluteLength && corner.t <= corner.la)) throw tqcadcamException(2112);
+    detail_::CheckTapLead(diameter, fluteLength, cornerRadius, cornerRadiusType, tipAngle);
     // The rounded lead ends on the side at the tool radius, within the flutes.
-    SetDefaultExtender(radius);
+    SetDefaultExtender(diameter / 2);
 }
 
 tqTapRH::~tqTapRH() = default;
