@@ -1,7 +1,7 @@
 // tqToolComparator: double dispatch over tqToolList.
 #include "cadcam/tools/tqtoolcomparator.h"
 
-#include <type_traits>
+#include <typeinfo>
 
 #include "cadcam/tools/tqalltools.h"
 #include "misc/tqexception.h"
@@ -13,24 +13,14 @@ namespace {
     misc::ThrowFailure(u"cadcam::tqToolComparator::Visit", u"Trying to compare an abstract type.");
 }
 
-/// Second dispatch: learns the right tool's class; only the same class can be equal.
-template <class Left>
-class RightSide : public misc::detail_::TypedVisitor<RightSide<Left>, tqToolVisitor, tqTool, tqToolList> {
+/// Second dispatch for tools of different classes: they are unequal, unless the right one is of a class outside
+/// the list, which is refused as the left one would be. One visitor for all left classes keeps the dispatch
+/// table linear in the number of classes.
+class RightSide : public misc::detail_::TypedVisitor<RightSide, tqToolVisitor, tqTool, tqToolList> {
 public:
-    RightSide(const Left& left, bool& result) : m_left(left), m_result(result) {}
     template <class Right>
-    void OnVisit(const Right& right) {
-        if constexpr (std::is_same<Left, Right>::value) {
-            m_result = m_left == right;
-        } else {
-            m_result = false;
-        }
-    }
+    void OnVisit(const Right&) {}
     [[noreturn]] void OnVisitBase(const tqTool&) { RefuseAbstract(); }
-
-private:
-    const Left& m_left;
-    bool& m_result;
 };
 
 }  // namespace
@@ -48,7 +38,13 @@ bool tqToolComparator::Compare(const tqTool& left, const tqTool& right) {
 
 template <class T>
 void tqToolComparator::OnVisit(const T& left) {
-    RightSide<T> second(left, m_result);
+    // The same dynamic class is the only way to equality, and then the right tool is a T.
+    if (typeid(m_right) == typeid(T)) {
+        m_result = left == static_cast<const T&>(m_right);
+        return;
+    }
+    m_result = false;
+    RightSide second;
     m_right.AcceptVisitor(second);
 }
 
