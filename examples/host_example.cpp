@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 using misc::tqAutoPointer;
 using misc::tqstring;
@@ -159,6 +160,205 @@ void CatalogueTools() {
     }
 }
 
+// ---- The machine set-up: stations, adapters, an assembled tool and a clamped stock, joined by the rig's table.
+
+namespace machine {
+
+using namespace tqWorkRig;
+
+template <class T, class... Args>
+tqAutoPointer<T> New(Args&&... args) {
+    return tqAutoPointer<T>(new T(std::forward<Args>(args)...));
+}
+tqAutoPointer<DockingFramePlug> Plug(const char16_t* name) { return New<DockingFramePlug>(name); }
+tqAutoPointer<DockingFrameSocket> Socket(const char16_t* name) { return New<DockingFrameSocket>(name); }
+
+// A frame placed `z` millimetres up its parent's axis.
+template <class Frame>
+tqAutoPointer<Frame> At(tqAutoPointer<Frame> frame, double z) {
+    frame->SetMatrix(DockingFrame::Matrix::Translation(0, 0, z));
+    return frame;
+}
+
+// The spindle side: an HSK adapter and a D10 end mill in a shrink-fit holder with an extension arbor. The
+// assembly knows its parts by its fields and by its own tree, holder plug down to tool plug.
+void AddSpindle(WorkRig& rig, bool registerEveryFrame) {
+    const tqAutoPointer<ToolMountStation> spindle = New<ToolMountStation>(u"S1", u"Spindle");
+    rig.AddToolMountStation(spindle);
+
+    const tqAutoPointer<ToolAdapter> adapter = New<ToolAdapter>(u"HSK-A63 adapter");
+    adapter->SetAdapterGeometry(New<Cylinder>(cadcam::tqTPoint3d<double>(0, 0, 0), cadcam::tqTPoint3d<double>(0, 0, -1),
+                                              63.0, 42.0, u"HSK body"));
+    adapter->SetIsRotating(true);
+    adapter->Add(Plug(u"spindle face"));
+    adapter->Add(At(Socket(u"HSK taper"), -42));
+    rig.AddToolAdapter(adapter);
+
+    const cadcam::tqTool::ArborPointer arborDefinition(new cadcam::tqArborDefinition<double>(
+        tqUnitsFactory::Metric, RevolvedPolyline({{0, 0}, {12, 0}, {17, 30}, {17, 45}})));
+    const cadcam::tqTool::HolderPointer holderDefinition(new cadcam::tqHolderDefinition<double>(
+        tqUnitsFactory::Metric, RevolvedPolyline({{0, 0}, {25, 0}, {25, 15}, {32, 15}, {32, 35}, {22, 70}})));
+    const tqAutoPointer<Holder> holder = New<Holder>(u"Shrink-fit holder");
+    holder->SetHolderDefinition(*holderDefinition);
+    holder->SetPlug(Plug(u"holder taper"));
+    holder->SetSocket(At(Socket(u"holder bore"), -70));
+    const tqAutoPointer<Arbor> arbor = New<Arbor>(u"Extension arbor");
+    arbor->SetArborDefinition(*arborDefinition);
+    arbor->SetPlug(Plug(u"arbor shank"));
+    arbor->SetSocket(At(Socket(u"arbor bore"), -45));
+    const tqAutoPointer<Tool> tool = New<Tool>(u"End mill D10");
+    tool->SetTool(tqAutoPointer<cadcam::tqTool>(
+        new cadcam::tqEndMill(tqUnitsFactory::Metric, arborDefinition, holderDefinition, 10, 22, 35)));
+    tool->SetPlug(Plug(u"end mill shank"));
+
+    const tqAutoPointer<ToolAssembly> assembly = New<ToolAssembly>(u"T1 end mill D10");
+    assembly->SetToolName(u"T1");
+    assembly->SetPlug(Plug(u"assembly taper"));
+    assembly->SetHolder(holder);
+    assembly->SetArbor(arbor);
+    assembly->SetTool(tool);
+    assembly->GetTree()->SetInitialPlug(holder->GetPlug());
+    assembly->GetTree()
+        ->GetRoot()
+        ->AddChild(holder->GetSocket(), arbor->GetPlug())
+        ->AddChild(arbor->GetSocket(), tool->GetPlug());
+    // Registers the holder, arbor and tool and the five frames of the assembly's tree.
+    rig.AddToolAssembly(assembly);
+
+    rig.AddDockingFrame((*adapter->GetPlugs())[0]);
+    rig.AddDockingFrame((*adapter->GetSockets())[0]);
+    if (registerEveryFrame) rig.AddDockingFrame(assembly->GetPlug());
+
+    // The station's tree starts at the adapter's plug; the assembly's plug goes into the adapter's socket.
+    const tqAutoPointer<ConnectorTree>& tree = rig.GetConnectorTable()->CreateNewTree(spindle, (*adapter->GetPlugs())[0]);
+    tree->AddConnection(assembly->GetPlug(), (*adapter->GetSockets())[0]);
+}
+
+// The table side: a machine vise, and a blank from the host's CAD as a mesh, clamped in its jaws.
+void AddTable(WorkRig& rig) {
+    const tqAutoPointer<StockMountStation> table = New<StockMountStation>(u"TBL", u"Table");
+    rig.AddStockMountStation(table);
+
+    const tqAutoPointer<StockAdapter> vise = New<StockAdapter>(u"Machine vise");
+    vise->SetFixtureGeometry(New<Box>(cadcam::tqTPoint3d<double>(-60, -40, 0), cadcam::tqTPoint3d<double>(60, 40, 80),
+                                      u"Vise body"));
+    vise->Add(Plug(u"vise base"));
+    vise->Add(At(Socket(u"vise jaws"), 80));
+    rig.AddStockAdapter(vise);
+
+    const tqAutoPointer<Stock> blank = New<Stock>(u"Blank 100x60x40");
+    blank->SetStockGeometry(New<Mesh>(StockMesh(), u"Blank mesh"));
+    blank->Add(Plug(u"blank bottom"));
+    rig.AddStock(blank);
+
+    rig.AddDockingFrame((*vise->GetPlugs())[0]);
+    rig.AddDockingFrame((*vise->GetSockets())[0]);
+    rig.AddDockingFrame((*blank->GetPlugs())[0]);
+
+    const tqAutoPointer<ConnectorTree>& tree = rig.GetConnectorTable()->CreateNewTree(table, (*vise->GetPlugs())[0]);
+    tree->AddConnection((*blank->GetPlugs())[0], (*vise->GetSockets())[0]);
+}
+
+// The whole machine; with registerEveryFrame false, the assembly's own plug is left out of the frame list.
+tqAutoPointer<WorkRig> Build(bool registerEveryFrame) {
+    tqAutoPointer<WorkRig> rig(new WorkRig(tqUnitsFactory::Metric));
+    rig->SetDisplayName(u"VMC-850 set-up");
+    AddSpindle(*rig, registerEveryFrame);
+    AddTable(*rig);
+    rig->AddWorkOffset(New<WorkOffset>(DockingFrame::Matrix::Translation(-250, -120, -310), u"G54", u"Vise, jaw corner"));
+    rig->AddWorkOffset(New<WorkOffset>(DockingFrame::Matrix::Translation(-250, -120, -350), u"G55", u"Vise, floor"));
+    rig->AddMillingToolOffset(New<MillingToolOffset>(u"D1", 10.0, 118.5, u"T1 end mill D10"));
+    rig->AddTurningToolOffset(New<TurningToolOffset>(u"T0101", 3, 0.4, u"OD roughing"));
+    return rig;
+}
+
+// One line per level: plugs and sockets alternate, each with the object that carries it.
+void PrintPlugNode(const PlugNode& node, int depth) {
+    const DockingFramePlug& plug = *node.GetPlug();
+    std::printf("  %*splug   %-16s on %s\n", 2 * depth, "", Utf8(plug.GetDisplayName()).c_str(),
+                Utf8(plug.GetParent()->GetDisplayName()).c_str());
+    for (const tqAutoPointer<SocketNode>& child : node.GetChildren()) {
+        const DockingFrameSocket& socket = *child->GetSocket();
+        std::printf("  %*ssocket %-16s on %s\n", 2 * depth + 2, "", Utf8(socket.GetDisplayName()).c_str(),
+                    Utf8(socket.GetParent()->GetDisplayName()).c_str());
+        if (child->GetChild().IsNotNull()) PrintPlugNode(*child->GetChild(), depth + 2);
+    }
+}
+
+void PrintQueries(const WorkRig& rig, const MountStation& station, const ConnectorTree& tree) {
+    const ConnectorTable& table = *rig.GetConnectorTable();
+    if (station.GetStationType() == MountStation::StockStation) {
+        for (const tqAutoPointer<Stock>& stock : *rig.GetAllStocks()) {
+            // Each answer is a new list: hold it while walking it.
+            const auto adapters = table.GetAllStockAdapters(stock, tree);
+            for (const tqAutoPointer<StockAdapter>& adapter : *adapters)
+                std::printf("  %s sits on %s\n", Utf8(stock->GetDisplayName()).c_str(),
+                            Utf8(adapter->GetDisplayName()).c_str());
+        }
+        for (const tqAutoPointer<StockAdapter>& adapter : *rig.GetAllStockAdapters())
+            std::printf("  %s holds %zu stock(s)\n", Utf8(adapter->GetDisplayName()).c_str(),
+                        table.GetAllStocks(adapter, tree)->size());
+    } else {
+        for (const tqAutoPointer<ToolAdapter>& adapter : *rig.GetAllToolAdapters()) {
+            const auto assemblies = table.GetAllToolAssemblies(adapter, tree);
+            for (const tqAutoPointer<ToolAssembly>& assembly : *assemblies)
+                std::printf("  %s hangs from %s\n", Utf8(assembly->GetDisplayName()).c_str(),
+                            Utf8(adapter->GetDisplayName()).c_str());
+        }
+        for (const tqAutoPointer<ToolAssembly>& assembly : *rig.GetAllToolAssemblies()) {
+            const tqAutoPointer<ToolAdapter> adapter = table.GetToolAdapter(assembly, tree);
+            std::printf("  the tool adapter of %s: %s\n", Utf8(assembly->GetDisplayName()).c_str(),
+                        adapter.IsNotNull() ? Utf8(adapter->GetDisplayName()).c_str() : "none");
+        }
+    }
+}
+
+void Show() {
+    const tqAutoPointer<WorkRig> rig = Build(true);
+    std::printf("\nMachine set-up \"%s\": %zu stations, %zu adapters, %zu stock(s), %zu assembly, %zu frames\n",
+                Utf8(rig->GetDisplayName()).c_str(),
+                rig->GetAllToolMountStations()->size() + rig->GetAllStockMountStations()->size(),
+                rig->GetAllToolAdapters()->size() + rig->GetAllStockAdapters()->size(), rig->GetAllStocks()->size(),
+                rig->GetAllToolAssemblies()->size(), rig->GetDockingFrames()->size());
+    std::printf("  registered with the assembly: %s, %s, %s\n", Utf8(rig->GetAllHolders()[0]->GetDisplayName()).c_str(),
+                Utf8(rig->GetAllArbors()[0]->GetDisplayName()).c_str(),
+                Utf8(rig->GetAllTools()[0]->GetDisplayName()).c_str());
+    for (const tqAutoPointer<WorkOffset>& offset : *rig->GetWorkOffsets()) {
+        const cadcam::tqTPoint3d<double> origin = offset->GetMatrix().GetTranslation();
+        std::printf("  work offset %s (%s) at (%g, %g, %g)\n", Utf8(offset->GetName()).c_str(),
+                    Utf8(offset->GetDisplayName()).c_str(), origin.x, origin.y, origin.z);
+    }
+    const MillingToolOffset& milling = *(*rig->GetAllMillingToolOffsets())[0];
+    std::printf("  milling offset %s: diameter %g, length %g\n", Utf8(milling.GetName()).c_str(),
+                milling.GetDiameter(), milling.GetLength());
+    const TurningToolOffset& turning = *(*rig->GetAllTurningToolOffsets())[0];
+    std::printf("  turning offset %s: tip direction %d, tip radius %g\n", Utf8(turning.GetName()).c_str(),
+                turning.GetToolTipDirection(), turning.GetToolTipRadius());
+
+    // The table is sorted by station: tool stations first.
+    for (const auto& [station, tree] : *rig->GetConnectorTable()) {
+        std::printf("\n%s (%s station %s):\n", Utf8(station->GetDisplayName()).c_str(),
+                    station->GetStationType() == MountStation::ToolStation ? "tool" : "stock",
+                    Utf8(station->GetStationName()).c_str());
+        PrintPlugNode(*tree->GetRoot(), 0);
+        PrintQueries(*rig, *station, *tree);
+    }
+    const ToolAssembly& assembly = *(*rig->GetAllToolAssemblies())[0];
+    std::printf("\nInside %s:\n", Utf8(assembly.GetDisplayName()).c_str());
+    PrintPlugNode(*assembly.GetTree()->GetRoot(), 0);
+
+    Validator(rig).ValidateWorkRig();
+    std::printf("\nValidator: every frame of the set-up is registered\n");
+    const tqAutoPointer<WorkRig> incomplete = Build(false);
+    try {
+        Validator(incomplete).ValidateWorkRig();
+    } catch (const misc::tqException& e) {
+        std::printf("Validator on a set-up with a frame left out: \"%s\"\n", Utf8(e.GetMessage()).c_str());
+    }
+}
+
+}  // namespace machine
+
 int main() {
     using namespace tqWorkRig;
 
@@ -226,6 +426,7 @@ int main() {
     std::filesystem::remove_all(folder);
 
     CatalogueTools();
+    machine::Show();
 
     // Misuse ends in the library's exceptions, with their codes and texts.
     try {

@@ -146,15 +146,46 @@
 #include "cadcam/tools/validation/tqtoolpartprofilevalidation.h"
 
 // tqWorkRig: the model
+#include "tqWorkRig/model/arbor.h"
 #include "tqWorkRig/model/baseobject.h"
 #include "tqWorkRig/model/box.h"
 #include "tqWorkRig/model/cylinder.h"
 #include "tqWorkRig/model/dockableobject.h"
+#include "tqWorkRig/model/dockableobjectcomparer.h"
+#include "tqWorkRig/model/dockableobjectlist.h"
+#include "tqWorkRig/model/dockableobjecttypedetector.h"
+#include "tqWorkRig/model/dockableobjectvisitor.h"
+#include "tqWorkRig/model/dockingframe.h"
+#include "tqWorkRig/model/dockingframeplug.h"
+#include "tqWorkRig/model/dockingframesocket.h"
+#include "tqWorkRig/model/dockingframevisitor.h"
 #include "tqWorkRig/model/geometry.h"
 #include "tqWorkRig/model/geometryvisitor.h"
+#include "tqWorkRig/model/holder.h"
 #include "tqWorkRig/model/mesh.h"
+#include "tqWorkRig/model/millingtooloffset.h"
+#include "tqWorkRig/model/mountstation.h"
 #include "tqWorkRig/model/objectsversion.h"
+#include "tqWorkRig/model/stock.h"
+#include "tqWorkRig/model/stockadapter.h"
+#include "tqWorkRig/model/stockmountstation.h"
+#include "tqWorkRig/model/tool.h"
+#include "tqWorkRig/model/tooladapter.h"
+#include "tqWorkRig/model/toolmountstation.h"
+#include "tqWorkRig/model/turningtooloffset.h"
+#include "tqWorkRig/model/workoffset.h"
 #include "tqWorkRig/model/workrig.h"
+
+// tqWorkRig: connector trees
+#include "tqWorkRig/connection/connectortable.h"
+#include "tqWorkRig/connection/connectortree.h"
+#include "tqWorkRig/connection/plugnode.h"
+#include "tqWorkRig/connection/socketnode.h"
+#include "tqWorkRig/connection/toolassembly.h"
+#include "tqWorkRig/connection/treehelper.h"
+
+// tqWorkRig: validation
+#include "tqWorkRig/validation/validator.h"
 
 // tqWorkRig: persistence
 #include "tqWorkRig/persistence/workrigfilereader.h"
