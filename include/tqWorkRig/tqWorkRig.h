@@ -29,6 +29,7 @@
 #include "cadcam/geometry/tq2dline.h"
 #include "cadcam/geometry/tq2dpoint.h"
 #include "cadcam/geometry/tq2dpolyline.h"
+#include "cadcam/geometry/tq3dboundingbox.h"
 #include "cadcam/geometry/tqangle.h"
 #include "cadcam/geometry/tqmathexception.h"
 #include "cadcam/geometry/tqmatrix.h"
@@ -144,6 +145,11 @@
 #include "cadcam/tools/validation/tqprofiletoshapeif.h"
 #include "cadcam/tools/validation/tqprofilevalidation.h"
 #include "cadcam/tools/validation/tqtoolpartprofilevalidation.h"
+#include "cadcam/tools/geometry/tqsoliddefinitionboundingbox.h"
+#include "cadcam/tools/geometry/tqsoliddefinitionmeshcreator.h"
+#include "cadcam/tools/geometry/tqtoolboundingbox.h"
+#include "cadcam/tools/geometry/tqtooltogenerictoolconverter.h"
+#include "cadcam/tools/parts/tqdefaulttoolparts.h"
 
 // tqWorkRig: the model
 #include "tqWorkRig/model/arbor.h"

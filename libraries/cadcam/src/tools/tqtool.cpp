@@ -1,6 +1,7 @@
 // tqTool: holder and arbor, copies, equality and the change of units.
 #include "cadcam/tools/tqtool.h"
 
+#include "cadcam/tools/geometry/tqtoolboundingbox.h"
 #include "cadcam/tools/parts/tqarbordefinition.h"
 #include "cadcam/tools/parts/tqholderdefinition.h"
 #include "cadcam/tools/tqtoolcloner.h"
@@ -35,7 +36,11 @@ tqTool::tqTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
 
 tqTool::~tqTool() = default;
 
-std::optional<double> tqTool::PartHeightOf(PartHeightSelector) const { return std::nullopt; }
+std::optional<double> tqTool::PartHeightOf(PartHeightSelector selector) const {
+    const unsigned mask = selector & (kCuttingPart | kNonCuttingPart);
+    if (!tqToolBoundingBox::Of(*this, mask).IsInitialized()) return std::nullopt;
+    return tqToolBoundingBox::HeightOf(*this, mask);
+}
 
 misc::tqAutoPointer<tqTool> tqTool::Clone() const { return tqToolCloner::Clone(*this); }
 

@@ -3,11 +3,14 @@
 
 #include <type_traits>
 
+#include "cadcam/geometry/tq2dcontour.h"
+#include "cadcam/tools/parts/tqcuttingpartdefinition.h"
 #include "cadcam/tools/parts/tqholderdefinition.h"
 #include "cadcam/tools/solids/tqsoliddefinitionvisitorgetter.h"
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 #include "misc/tqtypedvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 namespace {
@@ -56,6 +59,13 @@ bool tqTypedExtrudedTool::BaseEquals(const tqTypedExtrudedTool& other) const {
 void tqTypedExtrudedTool::Scale(measures::tqUnitsFactory::Units units, const double& factor) {
     m_insertThickness *= factor;
     tqTool::Scale(units, factor);
+    // Every class has scaled its own lengths before calling here: the insert is made again from them.
+    BuildCuttingPart(units);
+}
+
+void tqTypedExtrudedTool::BuildCuttingPart(measures::tqUnitsFactory::Units units) {
+    // An insert too small or too slender to compute has a part without contour.
+    m_cuttingPart = shape::TurningPlanePart(units, {MakeInsertContour()}, 0, m_insertThickness);
 }
 
 }  // namespace cadcam

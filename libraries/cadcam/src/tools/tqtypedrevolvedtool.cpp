@@ -1,11 +1,15 @@
-// tqTypedRevolvedTool: the common parameters, their checks, the extender and the part heights.
+// tqTypedRevolvedTool: the common parameters, their checks, the extender, the profiles and parts, and the heights.
 #include "cadcam/tools/tqtypedrevolvedtool.h"
 
 #include <algorithm>
 #include <cmath>
 
+#include "cadcam/tools/parts/tqcuttingpartdefinition.h"
+#include "cadcam/tools/parts/tqnoncuttingpartdefinition.h"
 #include "cadcam/tools/tqcadcamexception.h"
+#include "cadcam/tools/solids/tqrevolvedsoliddefinition.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
 
@@ -37,7 +41,7 @@ tqTypedRevolvedTool::tqTypedRevolvedTool(measures::tqUnitsFactory::Units units, 
       m_diameter(diameter),
       m_fluteLength(fluteLength),
       m_shoulderLength(shoulderLength),
-      // Stands in until SetDefaultExtender, which every class calls when none was given.
+      // Stands in until BuildProfiles, which every class calls, sets the default one when none was given.
       m_extender(extender != nullptr ? *extender : tqShoulderDefinitionExtender(units, 1, 1)),
       m_extenderGiven(extender != nullptr) {
     if (!(diameter > 0 && std::isfinite(diameter))) throw tqcadcamException(2105);
@@ -65,10 +69,60 @@ tqTypedRevolvedTool::tqTypedRevolvedTool(measures::tqUnitsFactory::Units units, 
 
 tqTypedRevolvedTool::~tqTypedRevolvedTool() = default;
 
-void tqTypedRevolvedTool::SetDefaultExtender(double topRadius, bool baseAtShoulder) {
-    if (m_extenderGiven) return;
-    m_extender = tqShoulderDefinitionExtender(GetUnits(), std::max(m_diameter, 2 * topRadius),
-                                              baseAtShoulder ? m_shoulderLength : m_fluteLength);
+void tqTypedRevolvedTool::BuildProfiles(const shape::HeadPath& head, bool baseAtShoulder) {
+    using shape::Point;
+    const double lf = m_fluteLength;
+    const double ls = m_shoulderLength;
+    shape::HeadPath cutting = shape::ExtendAndClip(head, lf);
+    shape::Drop(cutting);
+    const double topRadius = cutting.Last().x;
+    // The default extender follows the profile, also after a change of units.
+    if (!m_extenderGiven) {
+        m_extender = tqShoulderDefinitionExtender(GetUnits(), std::max(m_diameter, 2 * topRadius),
+                                                  baseAtShoulder ? ls : lf);
+    }
+    const double rs = m_extender.GetDiameter() / 2;
+    // Heights closer than ε are one: a shank lower than that is none, and a cone that low is a step.
+    const double epsilon = shape::Epsilon(std::max({ls, rs, topRadius}));
+    const double lb = m_extender.GetLength() - lf <= epsilon ? lf : m_extender.GetLength();
+
+    // The shank: a cone from the top of the flutes to the extender's diameter over [Lf, Lb], then a cylinder.
+    shape::HeadPath shank(Point(0, lf));
+    if (ls - lf > epsilon) {
+        if (lb == lf) {
+            shank.LineTo(Point(rs, lf));
+        } else {
+            shank.LineTo(Point(topRadius, lf));
+            if (lb < ls) shank.LineTo(Point(rs, lb));
+        }
+        shank.LineTo(Point(rs, ls));
+    }
+    shape::Drop(shank);
+    // The part's own coordinates start at y = 0 exactly and end at Ls − Lf.
+    shape::HeadPath part(Point(shank.start.x, 0));
+    for (const shape::PathItem& item : shank.items) part.LineTo(Point(item.end.x, item.end.y - lf));
+
+    shape::HeadPath tool = cutting;
+    if (!shank.items.empty()) {
+        tool.LineTo(shank.items.front().end);
+        tool.items.insert(tool.items.end(), shank.items.begin() + 1, shank.items.end());
+    }
+    shape::Drop(tool);
+
+    const measures::tqUnitsFactory::Units units = GetUnits();
+    using Solid = tqRevolvedSolidDefinition<double>;
+    using SolidPointer = tqToolPartDefinition<double>::SolidPointer;
+    // Built aside first, so that a failure leaves the tool as it was.
+    CuttingPartPointer cuttingPart(
+        new tqCuttingPartDefinition<double>(units, SolidPointer(new Solid(units, shape::ToContour(cutting)))));
+    NonCuttingPartPointer nonCuttingPart(
+        new tqNonCuttingPartDefinition<double>(units, SolidPointer(new Solid(units, shape::ToContour(part)))));
+    tq2dContour<double> shankProfile = shape::ToContour(shank);
+    tq2dContour<double> profile = shape::ToContour(tool);
+    m_cuttingPart = cuttingPart;
+    m_nonCuttingPart = nonCuttingPart;
+    m_nonCuttingToolProfile = shankProfile;
+    m_profile = profile;
 }
 
 std::optional<double> tqTypedRevolvedTool::PartHeightOf(PartHeightSelector selector) const {
@@ -95,6 +149,7 @@ void tqTypedRevolvedTool::Scale(measures::tqUnitsFactory::Units units, const dou
     m_shoulderLength *= factor;
     measures::tqMeasurable::ScaleNested(m_extender, units, factor);
     tqTool::Scale(units, factor);
+    RebuildProfiles();
 }
 
 }  // namespace cadcam

@@ -5,6 +5,9 @@
 
 namespace cadcam {
 
+template <class T>
+class tq2dContour;
+
 /// A tool whose body is a profile revolved about its axis.
 class TQ_EXPORT tqRevolvedTool : public tqTool {
 public:
@@ -12,6 +15,8 @@ public:
 
     /// The tool's cutting diameter.
     virtual double GetDiameter() const = 0;
+    /// The outline of the whole tool from the tip up (X the radius, Y the height), in tool coordinates.
+    virtual const tq2dContour<double>& GetProfile() const = 0;
 
     void AcceptBranchVisitor(tqToolBranchVisitor& visitor) const override;
     /// Reaches the visitor's overload for tools of an abstract family; every concrete class overrides it.

@@ -30,7 +30,7 @@ public:
 
     ~tqTool() override;
 
-    /// The height of the tool over the selected part kinds; absent when they have no extent (counts as 0).
+    /// The Z extent of the selected part kinds in the tool (tqToolBoundingBox); absent when they have no extent.
     virtual std::optional<double> PartHeightOf(PartHeightSelector selector) const;
     /// Calls the visitor's Visit for this tool's family.
     virtual void AcceptBranchVisitor(tqToolBranchVisitor& visitor) const = 0;

@@ -1,4 +1,4 @@
-// tqBarrelAdvancedMill: its definitions, the barrel they give, and the checks.
+// tqBarrelAdvancedMill: its definitions, the barrel they give, the checks and its head.
 #include "cadcam/tools/barrel/tqbarreladvancedmill.h"
 
 #include <algorithm>
@@ -8,6 +8,29 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The barrel that the three definitions give.
+shape::AdvancedBarrel Barrel(const tqBarrelAdvancedMill::FluteHeightDefinition& fluteHeight,
+                             const tqBarrelAdvancedMill::AxialPositionDefinition& axialPosition,
+                             const tqBarrelAdvancedMill::RadialPositionDefinition& radialPosition,
+                             double profileRadius) {
+    using Mill = tqBarrelAdvancedMill;
+    return shape::MakeAdvancedBarrel(
+        profileRadius, fluteHeight.GetDefinedBy() == Mill::FluteHeightDefinition::FH_DEF_BY_LENGTH,
+        fluteHeight.GetValue(), axialPosition.GetDefinedBy() == Mill::AxialPositionDefinition::AP_DEF_BY_DISTANCE,
+        axialPosition.GetValue(), radialPosition.GetDefinedBy() == Mill::RadialPositionDefinition::RP_DEF_BY_DISTANCE,
+        radialPosition.GetValue());
+}
+
+/// The corner fillet, the barrel up to its maximum diameter and on to the top of the flutes.
+shape::HeadPath Head(const shape::AdvancedBarrel& b, const shape::AdvancedCorner& corner) {
+    shape::HeadPath head = shape::LowerFilletPath(corner.bottom, b.cb, shape::Point(b.rmax, b.ya));
+    head.ArcTo(shape::Point(b.ru, b.fluteLength), b.cb, true);
+    return head;
+}
+
+}  // namespace
 
 using FluteHeight = tqBarrelAdvancedMill::FluteHeightDefinition;
 using AxialPosition = tqBarrelAdvancedMill::AxialPositionDefinition;
@@ -85,9 +108,7 @@ tqBarrelAdvancedMill::Derivation tqBarrelAdvancedMill::Derive(const FluteHeightD
     const bool axialByDistance = axialBy == AxialPosition::AP_DEF_BY_DISTANCE;
     if (!(axialPosition.GetValue() >= 0)) throw tqcadcamException(axialByDistance ? 2291 : 2280);
 
-    const shape::AdvancedBarrel b = shape::MakeAdvancedBarrel(
-        profileRadius, flutesByLength, fluteHeight.GetValue(), axialByDistance, axialPosition.GetValue(),
-        radialBy == RadialPosition::RP_DEF_BY_DISTANCE, radialPosition.GetValue());
+    const shape::AdvancedBarrel b = Barrel(fluteHeight, axialPosition, radialPosition, profileRadius);
     const double rp = profileRadius;
     if (!(rp > b.dr)) throw tqcadcamException(2282);
     if (axialByDistance) {
@@ -165,10 +186,18 @@ tqBarrelAdvancedMill::tqBarrelAdvancedMill(measures::tqUnitsFactory::Units units
     m_fluteHeightDefinition.SetUnits(units, true);
     m_axialPositionDefinition.SetUnits(units, true);
     m_radialPositionDefinition.SetUnits(units, true);
-    SetDefaultExtender(b.ru);
+    BuildProfiles(Head(b, corner));
 }
 
 tqBarrelAdvancedMill::~tqBarrelAdvancedMill() = default;
+
+void tqBarrelAdvancedMill::RebuildProfiles() {
+    const shape::AdvancedBarrel b =
+        Barrel(m_fluteHeightDefinition, m_axialPositionDefinition, m_radialPositionDefinition, m_profileRadius);
+    // The diameter and flute length were scaled, not derived again, so that a round trip of units keeps them
+    // within an ulp; the clip at Lf absorbs the ulps by which the scaled barrel's own flute length differs.
+    BuildProfiles(Head(b, shape::MakeAdvancedCorner(b, m_cornerRadiusType, m_cornerRadius)));
+}
 
 void tqBarrelAdvancedMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

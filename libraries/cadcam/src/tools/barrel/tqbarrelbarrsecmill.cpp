@@ -1,4 +1,4 @@
-// tqBarrelBarrSecMill: its parameters and their checks.
+// tqBarrelBarrSecMill: its parameters, their checks and its head.
 #include "cadcam/tools/barrel/tqbarrelbarrsecmill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,18 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The lower blend, the barrel over its widest point, the concave upper blend into the shaft, and the shaft.
+shape::HeadPath Head(const shape::BarrSecShape& s) {
+    shape::HeadPath head = shape::LowerFilletPath(s.bottom, s.cb, s.widest);
+    head.ArcTo(s.tku, s.cb, true);
+    head.ArcTo(s.tlu, s.fu, false);
+    head.LineTo(s.top);
+    return head;
+}
+
+}  // namespace
 
 tqBarrelBarrSecMill::tqBarrelBarrSecMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                                          const HolderPointer& holder, double diameter, double fluteLength,
@@ -49,10 +61,15 @@ tqBarrelBarrSecMill::tqBarrelBarrSecMill(measures::tqUnitsFactory::Units units, 
     if (!(s.bottom.f.x >= 0 && s.bottom.tk.y <= centerHeight)) throw tqcadcamException(3456);
     if (!(s.upperRadicand >= 0)) throw tqcadcamException(3457);
     if (!(s.tlu.y <= fluteLength)) throw tqcadcamException(3458);
-    SetDefaultExtender(s.top.x);
+    BuildProfiles(Head(s));
 }
 
 tqBarrelBarrSecMill::~tqBarrelBarrSecMill() = default;
+
+void tqBarrelBarrSecMill::RebuildProfiles() {
+    BuildProfiles(Head(shape::MakeBarrSecShape(GetDiameter(), GetFluteLength(), m_shaftDiameter, m_upperBlendRadius,
+                                               m_profileRadius, m_lowerBlendRadius, m_centerHeight)));
+}
 
 void tqBarrelBarrSecMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,4 +1,4 @@
-// tqBarrelDProfMill: its parameters and their checks.
+// tqBarrelDProfMill: its parameters, their checks and its head.
 #include "cadcam/tools/barrel/tqbarreldprofmill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,16 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The blend ball, the lower profile up to the widest point, the upper profile on to the flute length.
+shape::HeadPath Head(const shape::DProfShape& s) {
+    shape::HeadPath head = shape::TangentBarrelPath(s.lower);
+    head.ArcTo(s.top, s.upperCentre, true);
+    return head;
+}
+
+}  // namespace
 
 tqBarrelDProfMill::tqBarrelDProfMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                                      const HolderPointer& holder, double diameter, double fluteLength,
@@ -39,10 +49,15 @@ tqBarrelDProfMill::tqBarrelDProfMill(measures::tqUnitsFactory::Units units, cons
     if (!(upperProfileRadius > 0 && yk <= fluteLength && fluteLength - yk < upperProfileRadius && s.top.x >= 0)) {
         throw tqcadcamException(3440);
     }
-    SetDefaultExtender(s.top.x);
+    BuildProfiles(Head(s));
 }
 
 tqBarrelDProfMill::~tqBarrelDProfMill() = default;
+
+void tqBarrelDProfMill::RebuildProfiles() {
+    BuildProfiles(Head(shape::MakeDProfShape(GetDiameter(), GetFluteLength(), m_upperProfileRadius, m_blendRadius,
+                                             m_lowerProfileRadius)));
+}
 
 void tqBarrelDProfMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,4 +1,4 @@
-// tqBarrelMill: its parameters and their checks.
+// tqBarrelMill: its parameters, their checks and its head.
 #include "cadcam/tools/barrel/tqbarrelmill.h"
 
 #include <cmath>
@@ -8,6 +8,16 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The corner fillet, the barrel up to its widest point and on to the upper diameter at the flute length.
+shape::HeadPath Head(const shape::BarrelMillShape& s) {
+    shape::HeadPath head = shape::LowerFilletPath(s.bottom, s.cb, s.widest);
+    head.ArcTo(s.top, s.cb, true);
+    return head;
+}
+
+}  // namespace
 
 tqBarrelMill::tqBarrelMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                            const HolderPointer& holder, double diameter, double fluteLength, double shoulderLength,
@@ -48,10 +58,15 @@ tqBarrelMill::tqBarrelMill(measures::tqUnitsFactory::Units units, const ArborPoi
     if (!s.bottom.ok) throw tqcadcamException(2294);
     // The fillet must leave the bottom at or right of the axis and meet the barrel below its widest point.
     if (!(s.bottom.f.x >= 0 && s.bottom.tk.y <= yb)) throw tqcadcamException(2315);
-    SetDefaultExtender(s.top.x);
+    BuildProfiles(Head(s));
 }
 
 tqBarrelMill::~tqBarrelMill() = default;
+
+void tqBarrelMill::RebuildProfiles() {
+    BuildProfiles(Head(
+        shape::MakeBarrelMillShape(GetDiameter(), GetFluteLength(), m_upperDiameter, m_cornerRadius, m_profileRadius)));
+}
 
 void tqBarrelMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

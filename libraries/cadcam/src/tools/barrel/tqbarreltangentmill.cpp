@@ -1,4 +1,4 @@
-// tqBarrelTangentMill: its parameters and their checks.
+// tqBarrelTangentMill: its parameters, their checks and its head.
 #include "cadcam/tools/barrel/tqbarreltangentmill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,17 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The tip ball, the barrel over its widest point to the upper diameter, then straight up to the flute length.
+shape::HeadPath Head(const shape::TangentMillShape& s) {
+    shape::HeadPath head = shape::TangentBarrelPath(s.lower);
+    head.ArcTo(s.upper, s.lower.cb, true);
+    head.LineTo(s.top);
+    return head;
+}
+
+}  // namespace
 
 tqBarrelTangentMill::tqBarrelTangentMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                                          const HolderPointer& holder, double diameter, double fluteLength,
@@ -41,10 +52,15 @@ tqBarrelTangentMill::tqBarrelTangentMill(measures::tqUnitsFactory::Units units, 
     if (!(yb <= fluteLength)) throw tqcadcamException(2297);
     if (!(upperDiameter > 0 && upperDiameter <= diameter)) throw tqcadcamException(2164);
     if (!(s.upper.y <= fluteLength)) throw tqcadcamException(2298);
-    SetDefaultExtender(s.top.x);
+    BuildProfiles(Head(s));
 }
 
 tqBarrelTangentMill::~tqBarrelTangentMill() = default;
+
+void tqBarrelTangentMill::RebuildProfiles() {
+    BuildProfiles(Head(
+        shape::MakeTangentMillShape(GetDiameter(), GetFluteLength(), m_upperDiameter, m_profileRadius, m_lowerRadius)));
+}
 
 void tqBarrelTangentMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,4 +1,4 @@
-// tqBarrelTangentMillConicalShaft: its parameters and their checks.
+// tqBarrelTangentMillConicalShaft: its parameters, their checks and its head.
 #include "cadcam/tools/barrel/tqbarreltangentmillconicalshaft.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,19 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The tip ball, the barrel over its widest point to where its tangent is the cone's, the neck cone, then
+/// straight up to the flute length.
+shape::HeadPath Head(const shape::ConicalShaftShape& s) {
+    shape::HeadPath head = shape::TangentBarrelPath(s.lower);
+    head.ArcTo(s.pt, s.lower.cb, true);
+    head.LineTo(s.pc);
+    head.LineTo(s.top);
+    return head;
+}
+
+}  // namespace
 
 using ConicalShaft = tqBarrelTangentMillConicalShaft;
 
@@ -47,10 +60,16 @@ ConicalShaft::tqBarrelTangentMillConicalShaft(measures::tqUnitsFactory::Units un
     if (!(taperAngle > 0 && taperAngle < 90 && coneLength >= 0)) throw tqcadcamException(2299);
     if (!(s.pc.y <= fluteLength && s.pc.x > 0)) throw tqcadcamException(2298);
     // The file keeps one shoulder length for both, so the default shank reaches its diameter at the shoulder.
-    SetDefaultExtender(s.top.x, true);
+    BuildProfiles(Head(s), true);
 }
 
 ConicalShaft::~tqBarrelTangentMillConicalShaft() = default;
+
+void ConicalShaft::RebuildProfiles() {
+    BuildProfiles(Head(shape::MakeConicalShaftShape(GetDiameter(), GetFluteLength(), m_taperAngle, m_profileRadius,
+                                                    m_lowerRadius, m_coneLength)),
+                  true);
+}
 
 void ConicalShaft::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,4 +1,4 @@
-// tqBarrelTaperMill: its parameters and their checks.
+// tqBarrelTaperMill: its parameters, their checks and its head.
 #include "cadcam/tools/barrel/tqbarreltapermill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,19 @@
 #include "tools/shape/barrelshapes.h"
 
 namespace cadcam {
+namespace {
+
+/// The lower radius, the barrel over its widest point, the concave upper radius into the neck cone, and the
+/// cone up to the flute length.
+shape::HeadPath Head(const shape::TaperShape& s) {
+    shape::HeadPath head = shape::LowerFilletPath(s.bottom, s.cb, s.widest);
+    head.ArcTo(s.tku, s.cb, true);
+    head.ArcTo(s.tlu, s.fu, false);
+    head.LineTo(s.top);
+    return head;
+}
+
+}  // namespace
 
 tqBarrelTaperMill::tqBarrelTaperMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                                      const HolderPointer& holder, double diameter, double fluteLength,
@@ -53,10 +66,15 @@ tqBarrelTaperMill::tqBarrelTaperMill(measures::tqUnitsFactory::Units units, cons
     // The neck must leave the barrel's upper right quarter.
     if (!(upperDiameter / 2 >= s.cb.x && s.disc >= 0)) throw tqcadcamException(3435);
     if (!(s.tku.y >= yb && s.tlu.y <= fluteLength && s.top.x <= radius)) throw tqcadcamException(3437);
-    SetDefaultExtender(s.top.x);
+    BuildProfiles(Head(s));
 }
 
 tqBarrelTaperMill::~tqBarrelTaperMill() = default;
+
+void tqBarrelTaperMill::RebuildProfiles() {
+    BuildProfiles(Head(shape::MakeTaperShape(GetDiameter(), GetFluteLength(), m_upperDiameter, m_taperAngle,
+                                             m_lowerRadius, m_profileRadius, m_upperRadius, m_flatnessDiameter)));
+}
 
 void tqBarrelTaperMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

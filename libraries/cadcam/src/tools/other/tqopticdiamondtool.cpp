@@ -1,37 +1,14 @@
 // tqOpticDiamondTool: its parameters and their checks, with the fit of the nose.
 #include "cadcam/tools/other/tqopticdiamondtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolbranchvisitor.h"
 #include "cadcam/tools/tqtoolvisitor.h"
-#include "tools/shape/profiletoolkit.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
-namespace {
-
-using shape::Point;
-
-/// The flank's height at half the width: the nose is the corner at the origin.
-double FlankHeight(tqOpticDiamondTool::RadiusType type, double includedAngle, double width) {
-    const double flankAngle = type == tqOpticDiamondTool::RT_FULL ? includedAngle / 2 : includedAngle;
-    return width / 2 / shape::TanDegrees(flankAngle);
-}
-
-/// Whether the nose fillet fits the two edges that meet at the sharp tip.
-bool NoseFits(tqOpticDiamondTool::RadiusType type, double radius, double width, double length, double hw) {
-    const Point tip(0, 0);
-    // The neighbours of the tip on the counterclockwise outline; RT_RIGHT mirrors RT_LEFT.
-    Point before(-width / 2, hw);
-    Point after(width / 2, hw);
-    if (type == tqOpticDiamondTool::RT_LEFT) after = Point(0, length);
-    if (type == tqOpticDiamondTool::RT_RIGHT) before = Point(0, length);
-    const shape::LineLineFillet nose =
-        shape::MakeLineLineFillet(tip, shape::Direction(before, tip), (tip - before).Length(),
-                                  shape::Direction(tip, after), (after - tip).Length(), radius);
-    return nose.fits;
-}
-
-}  // namespace
 
 tqOpticDiamondTool::tqOpticDiamondTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                                        const HolderPointer& holder, double radius, double includedAngle,
@@ -53,10 +30,12 @@ tqOpticDiamondTool::tqOpticDiamondTool(measures::tqUnitsFactory::Units units, co
     if (!(includedAngle > 0 && includedAngle < 90)) throw tqcadcamException(3401);
     if (!(rakeAngle > -90 && rakeAngle < 90)) throw tqcadcamException(3402);
     if (!(clearanceAngle > 0 && clearanceAngle < 90)) throw tqcadcamException(3403);
-    const double hw = FlankHeight(radiusType, includedAngle, width);
+    const double hw = shape::OpticFlankHeight(radiusType, includedAngle, width);
     if (!(length > 0 && width > 0 && thickness > 0 && hw < length)) throw tqcadcamException(3404);
     // The nose exists only once the angle and sizes are valid, so its fit is checked last.
-    if (!NoseFits(radiusType, radius, width, length, hw)) throw tqcadcamException(3400);
+    const shape::Polygon outline = shape::OpticDiamondOutline(radiusType, includedAngle, length, width);
+    if (!shape::VertexFillet(outline, 0, radius).fits) throw tqcadcamException(3400);
+    BuildCuttingPart(units);
 }
 
 tqOpticDiamondTool::~tqOpticDiamondTool() = default;
@@ -78,6 +57,14 @@ void tqOpticDiamondTool::Scale(measures::tqUnitsFactory::Units units, const doub
     m_width *= factor;
     m_thickness *= factor;
     tqTool::Scale(units, factor);
+    BuildCuttingPart(units);
+}
+
+void tqOpticDiamondTool::BuildCuttingPart(measures::tqUnitsFactory::Units units) {
+    const shape::Polygon outline = shape::OpticDiamondOutline(m_radiusType, m_includedAngle, m_length, m_width);
+    std::vector<double> radii(outline.size(), 0.0);
+    radii[0] = m_radius;
+    m_cuttingPart = shape::TurningPlanePart(units, {shape::RoundedContour(outline, radii, true)}, 0, m_thickness);
 }
 
 }  // namespace cadcam

@@ -1,8 +1,11 @@
-// tqSpeedShapeTool: its parameters; a speed shape tool has no rules.
+// tqSpeedShapeTool: its parameters and its envelope; a speed shape tool has no rules.
 #include "cadcam/tools/other/tqspeedshapetool.h"
+
+#include <vector>
 
 #include "cadcam/tools/tqtoolbranchvisitor.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -18,7 +21,9 @@ tqSpeedShapeTool::tqSpeedShapeTool(measures::tqUnitsFactory::Units units, const 
       m_conicAngle(conicAngle),
       m_rampAngle(rampAngle),
       m_arcRadius(arcRadius),
-      m_depth(depth) {}
+      m_depth(depth) {
+    BuildCuttingPart(units);
+}
 
 tqSpeedShapeTool::~tqSpeedShapeTool() = default;
 
@@ -41,6 +46,17 @@ void tqSpeedShapeTool::Scale(measures::tqUnitsFactory::Units units, const double
     m_arcRadius *= factor;
     m_depth *= factor;
     tqTool::Scale(units, factor);
+    BuildCuttingPart(units);
+}
+
+void tqSpeedShapeTool::BuildCuttingPart(measures::tqUnitsFactory::Units units) {
+    // Only the envelope has a shape; a tool without one still has a part, an extruded solid without contour.
+    std::vector<tq2dContour<double>> contours;
+    if (m_width > 0 && m_length > 0 && m_depth > 0) {
+        const double w = m_width / 2;
+        contours.push_back(shape::RoundedContour({{-w, 0}, {w, 0}, {w, m_length}, {-w, m_length}}, {}, false));
+    }
+    m_cuttingPart = shape::TurningPlanePart(units, contours, 0, m_depth > 0 ? m_depth : 1.0);
 }
 
 }  // namespace cadcam

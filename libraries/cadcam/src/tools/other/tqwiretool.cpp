@@ -1,6 +1,8 @@
-// tqWireTool: its parameters; a wire has no rules.
+// tqWireTool: its parameters and its wire solid; a wire has no rules.
 #include "cadcam/tools/other/tqwiretool.h"
 
+#include "cadcam/tools/parts/tqcuttingpartdefinition.h"
+#include "cadcam/tools/solids/tqwiresoliddefinition.h"
 #include "cadcam/tools/tqtoolbranchvisitor.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 
@@ -11,7 +13,9 @@ tqWireTool::tqWireTool(measures::tqUnitsFactory::Units units, const ArborPointer
     : tqTool(units, arbor, holder),
       m_wireDiameter(wireDiameter),
       m_wireLength(wireLength),
-      m_hasInfiniteLength(hasInfiniteLength) {}
+      m_hasInfiniteLength(hasInfiniteLength) {
+    BuildCuttingPart(units);
+}
 
 tqWireTool::~tqWireTool() = default;
 
@@ -28,6 +32,13 @@ void tqWireTool::Scale(measures::tqUnitsFactory::Units units, const double& fact
     m_wireDiameter *= factor;
     m_wireLength *= factor;
     tqTool::Scale(units, factor);
+    BuildCuttingPart(units);
+}
+
+void tqWireTool::BuildCuttingPart(measures::tqUnitsFactory::Units units) {
+    misc::tqAutoPointer<tqSolidDefinition<double>> solid(
+        new tqWireSolidDefinition<double>(units, m_wireDiameter, m_wireLength, m_hasInfiniteLength));
+    m_cuttingPart = CuttingPartPointer(new tqCuttingPartDefinition<double>(units, solid));
 }
 
 }  // namespace cadcam

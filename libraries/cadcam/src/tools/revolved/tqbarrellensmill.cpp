@@ -1,4 +1,4 @@
-// tqBarrelLensMill: its parameters and their checks.
+// tqBarrelLensMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqbarrellensmill.h"
 
 #include <cmath>
@@ -37,10 +37,14 @@ tqBarrelLensMill::tqBarrelLensMill(measures::tqUnitsFactory::Units units, const 
     if (!(cornerRadius < radius)) throw tqcadcamException(3432);
 
     const shape::HeadPath head = shape::ConvexTipHead(radius, convexTipRadius, 0, cornerRadius);
-    SetDefaultExtender(shape::ClipRadiusAt(head, fluteLength));
+    BuildProfiles(head);
 }
 
 tqBarrelLensMill::~tqBarrelLensMill() = default;
+
+void tqBarrelLensMill::RebuildProfiles() {
+    BuildProfiles(shape::ConvexTipHead(GetDiameter() / 2, m_convexTipRadius, 0, m_cornerRadius));
+}
 
 void tqBarrelLensMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

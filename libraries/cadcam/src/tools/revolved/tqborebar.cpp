@@ -1,4 +1,4 @@
-// tqBoreBar: its parameters and their checks.
+// tqBoreBar: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqborebar.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,18 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The back-tapered bar: the bottom and the side narrowing upward by the taper angle, the bottom corner rounded.
+shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                          double taperAngle) {
+    const double radius = diameter / 2;
+    return shape::MakeRoundedCorner({shape::Point(0, 0), shape::Point(radius, 0),
+                                     shape::Point(radius - fluteLength * shape::TanDegrees(taperAngle), fluteLength)},
+                                    1, cornerRadiusType, cornerRadius);
+}
+
+}  // namespace
 
 tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                      double diameter, double fluteLength, double shoulderLength, double cornerRadius,
@@ -32,22 +44,20 @@ tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& 
     if (!(cornerRadius >= 0)) throw tqcadcamException(2163);
     if (!(taperAngle >= 0.1 && taperAngle <= 89)) throw tqcadcamException(2122);
 
-    const double radius = diameter / 2;
-    const double topRadius = radius - fluteLength * shape::TanDegrees(taperAngle);
-    const shape::Point bottom(radius, 0);
-    const shape::Point top(topRadius, fluteLength);
-    const shape::CornerFillet corner =
-        shape::MakeCornerFillet(shape::Point(0, 0), bottom, top, cornerRadiusType, cornerRadius);
+    const shape::RoundedCorner head = Head(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle);
     // The side must stay off the axis and the fillet must fit the bottom; then it must fit the side.
+    const shape::CornerFillet& corner = head.fillet;
     const double t = corner.fillet.t;
-    if (!(topRadius > 0 && t <= corner.la)) throw tqcadcamException(2024);
+    if (!(head.points.back().x > 0 && t <= corner.la)) throw tqcadcamException(2024);
     if (!(t <= corner.lb)) throw tqcadcamException(3476);
-
-    const shape::HeadPath head = shape::RoundedPolyline({shape::Point(0, 0), bottom, top}, 1, corner);
-    SetDefaultExtender(shape::ClipRadiusAt(head, fluteLength));
+    BuildProfiles(head.Path());
 }
 
 tqBoreBar::~tqBoreBar() = default;
+
+void tqBoreBar::RebuildProfiles() {
+    BuildProfiles(Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle).Path());
+}
 
 void tqBoreBar::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

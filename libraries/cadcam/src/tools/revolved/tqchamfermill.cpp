@@ -1,4 +1,4 @@
-// tqChamferMill: its parameters and their checks.
+// tqChamferMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqchamfermill.h"
 
 #include <cmath>
@@ -8,6 +8,20 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The face mill's head: the bottom at the tip diameter, the chamfer cone out to the outside diameter and the
+/// side, the corner at (R, 0) rounded.
+shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                          double taperAngle, double outsideDiameter) {
+    const double radius = diameter / 2;
+    const double outsideRadius = outsideDiameter / 2;
+    const double leadHeight = (outsideRadius - radius) / shape::TanDegrees(taperAngle);
+    return shape::MakeRoundedCorner(shape::FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength), 1,
+                                    cornerRadiusType, cornerRadius);
+}
+
+}  // namespace
 
 tqChamferMill::tqChamferMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                              const HolderPointer& holder, double diameter, double fluteLength, double shoulderLength,
@@ -49,15 +63,19 @@ tqChamferMill::tqChamferMill(measures::tqUnitsFactory::Units units, const ArborP
     if (!(leadHeight <= fluteLength)) throw tqcadcamException(2123);
     // A shaft must stand above the chamfer.
     if (!(shoulderLength > fluteLength)) throw tqcadcamException(3423);
-    const std::vector<shape::Point> points = shape::FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength);
-    const shape::CornerFillet corner =
-        shape::MakeCornerFillet(points[0], points[1], points[2], cornerRadiusType, cornerRadius);
-    if (cornerRadiusType == CRT_CORNER && !(cornerRadius < corner.fullRadius)) throw tqcadcamException(2152);
-
-    SetDefaultExtender(shape::ClipRadiusAt(shape::RoundedPolyline(points, 1, corner), fluteLength));
+    const shape::RoundedCorner head =
+        Head(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle, outsideDiameter);
+    if (cornerRadiusType == CRT_CORNER && !(cornerRadius < head.fillet.fullRadius)) throw tqcadcamException(2152);
+    BuildProfiles(head.Path());
 }
 
 tqChamferMill::~tqChamferMill() = default;
+
+void tqChamferMill::RebuildProfiles() {
+    BuildProfiles(
+        Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle, m_outsideDiameter)
+            .Path());
+}
 
 void tqChamferMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,8 +1,9 @@
-// tqCntrBore: its parameters and their checks.
+// tqCntrBore: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqcntrbore.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
 
@@ -19,11 +20,15 @@ tqCntrBore::tqCntrBore(measures::tqUnitsFactory::Units units, const ArborPointer
                        double diameter, double fluteLength, double shoulderLength,
                        const tqShoulderDefinitionExtender* extender)
     : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender, CommonRules()) {
-    // The flutes are a cylinder: the top of the cutting profile lies at the tool radius.
-    SetDefaultExtender(diameter / 2);
+    // The flutes are a cylinder of the tool diameter.
+    BuildProfiles(shape::CylinderHead(diameter / 2, fluteLength));
 }
 
 tqCntrBore::~tqCntrBore() = default;
+
+void tqCntrBore::RebuildProfiles() {
+    BuildProfiles(shape::CylinderHead(GetDiameter() / 2, GetFluteLength()));
+}
 
 void tqCntrBore::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

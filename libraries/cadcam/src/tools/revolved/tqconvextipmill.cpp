@@ -1,4 +1,4 @@
-// tqConvexTipMill: its parameters and their checks.
+// tqConvexTipMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqconvextipmill.h"
 
 #include <cmath>
@@ -39,10 +39,14 @@ tqConvexTipMill::tqConvexTipMill(measures::tqUnitsFactory::Units units, const Ar
     if (!(convexTipRadius >= radius && std::isfinite(convexTipRadius))) throw tqcadcamException(2422);
 
     const shape::HeadPath head = shape::ConvexTipHead(radius, convexTipRadius, flatnessRadius, cornerRadius);
-    SetDefaultExtender(shape::ClipRadiusAt(head, fluteLength));
+    BuildProfiles(head);
 }
 
 tqConvexTipMill::~tqConvexTipMill() = default;
+
+void tqConvexTipMill::RebuildProfiles() {
+    BuildProfiles(shape::ConvexTipHead(GetDiameter() / 2, m_convexTipRadius, m_flatnessRadius, m_cornerRadius));
+}
 
 void tqConvexTipMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

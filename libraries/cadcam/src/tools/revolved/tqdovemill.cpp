@@ -1,4 +1,4 @@
-// tqDoveMill: its parameters and their checks.
+// tqDoveMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqdovemill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,18 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The bottom and the side narrowing upward by the taper angle (the undercut), the bottom corner rounded.
+shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                          double taperAngle) {
+    const double radius = diameter / 2;
+    return shape::MakeRoundedCorner({shape::Point(0, 0), shape::Point(radius, 0),
+                                     shape::Point(radius - fluteLength * shape::TanDegrees(taperAngle), fluteLength)},
+                                    1, cornerRadiusType, cornerRadius);
+}
+
+}  // namespace
 
 tqDoveMill::tqDoveMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                        double diameter, double fluteLength, double shoulderLength, double cornerRadius,
@@ -34,21 +46,19 @@ tqDoveMill::tqDoveMill(measures::tqUnitsFactory::Units units, const ArborPointer
     if (!(cornerRadius >= 0)) throw tqcadcamException(2163);
     if (!(taperAngle >= 0.1 && taperAngle <= 89)) throw tqcadcamException(2122);
 
-    const double radius = diameter / 2;
-    const double topRadius = radius - fluteLength * shape::TanDegrees(taperAngle);
-    const shape::Point bottom(radius, 0);
-    const shape::Point top(topRadius, fluteLength);
-    const shape::CornerFillet corner =
-        shape::MakeCornerFillet(shape::Point(0, 0), bottom, top, cornerRadiusType, cornerRadius);
+    const shape::RoundedCorner head = Head(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle);
     // The side must stay off the axis, and the fillet must fit both the bottom and the side.
+    const shape::CornerFillet& corner = head.fillet;
     const double t = corner.fillet.t;
-    if (!(topRadius > 0 && t <= corner.la && t <= corner.lb)) throw tqcadcamException(2141);
-
-    const shape::HeadPath head = shape::RoundedPolyline({shape::Point(0, 0), bottom, top}, 1, corner);
-    SetDefaultExtender(shape::ClipRadiusAt(head, fluteLength));
+    if (!(head.points.back().x > 0 && t <= corner.la && t <= corner.lb)) throw tqcadcamException(2141);
+    BuildProfiles(head.Path());
 }
 
 tqDoveMill::~tqDoveMill() = default;
+
+void tqDoveMill::RebuildProfiles() {
+    BuildProfiles(Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle).Path());
+}
 
 void tqDoveMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

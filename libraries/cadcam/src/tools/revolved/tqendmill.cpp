@@ -1,7 +1,8 @@
-// tqEndMill: only the common parameters and their checks.
+// tqEndMill: only the common parameters and their checks; a cylindrical head.
 #include "cadcam/tools/revolved/tqendmill.h"
 
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
 
@@ -18,11 +19,15 @@ tqEndMill::tqEndMill(measures::tqUnitsFactory::Units units, const ArborPointer& 
                      double diameter, double fluteLength, double shoulderLength,
                      const tqShoulderDefinitionExtender* extender)
     : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender, CommonRules()) {
-    // The flutes are a cylinder: the top of the cutting profile lies at the tool radius.
-    SetDefaultExtender(diameter / 2);
+    // The flutes are a cylinder of the tool diameter.
+    BuildProfiles(shape::CylinderHead(diameter / 2, fluteLength));
 }
 
 tqEndMill::~tqEndMill() = default;
+
+void tqEndMill::RebuildProfiles() {
+    BuildProfiles(shape::CylinderHead(GetDiameter() / 2, GetFluteLength()));
+}
 
 void tqEndMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,4 +1,4 @@
-// tqFaceMill: its parameters and their checks.
+// tqFaceMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqfacemill.h"
 
 #include <algorithm>
@@ -8,6 +8,20 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The bottom, the lead face out to the outside diameter and the side, the corner at (R, 0) rounded with the
+/// segment that leaves it.
+shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                          double outsideDiameter, double taperAngle) {
+    const double radius = diameter / 2;
+    const double outsideRadius = outsideDiameter / 2;
+    const double leadHeight = (outsideRadius - radius) / shape::TanDegrees(taperAngle);
+    return shape::MakeRoundedCorner(shape::FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength), 1,
+                                    cornerRadiusType, cornerRadius);
+}
+
+}  // namespace
 
 tqFaceMill::tqFaceMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                        double diameter, double fluteLength, double shoulderLength, double cornerRadius,
@@ -43,15 +57,20 @@ tqFaceMill::tqFaceMill(measures::tqUnitsFactory::Units units, const ArborPointer
     // The lead face must reach the outside diameter inside the flutes, and the fillet must fit the bottom and
     // the segment that leaves it.
     if (!(outsideDiameter >= diameter && leadHeight <= fluteLength)) throw tqcadcamException(2123);
-    const std::vector<shape::Point> points = shape::FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength);
-    const shape::CornerFillet corner =
-        shape::MakeCornerFillet(points[0], points[1], points[2], cornerRadiusType, cornerRadius);
+    const shape::RoundedCorner head =
+        Head(diameter, fluteLength, cornerRadius, cornerRadiusType, outsideDiameter, taperAngle);
+    const shape::CornerFillet& corner = head.fillet;
     if (!(corner.fillet.t <= std::min(corner.la, corner.lb))) throw tqcadcamException(2123);
-
-    SetDefaultExtender(shape::ClipRadiusAt(shape::RoundedPolyline(points, 1, corner), fluteLength));
+    BuildProfiles(head.Path());
 }
 
 tqFaceMill::~tqFaceMill() = default;
+
+void tqFaceMill::RebuildProfiles() {
+    BuildProfiles(
+        Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_outsideDiameter, m_taperAngle)
+            .Path());
+}
 
 void tqFaceMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

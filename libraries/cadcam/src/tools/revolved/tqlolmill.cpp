@@ -1,7 +1,5 @@
-// tqLolMill: its parameters and their checks.
+// tqLolMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqlolmill.h"
-
-#include <algorithm>
 
 #include "cadcam/tools/parts/tqarbordefinition.h"
 #include "cadcam/tools/tqcadcamexception.h"
@@ -27,18 +25,20 @@ tqLolMill::tqLolMill(measures::tqUnitsFactory::Units units, const ArborPointer& 
     if (!(outsideDiameter > 0)) throw tqcadcamException(2155);
     if (!(outsideDiameter < diameter)) throw tqcadcamException(2191);
 
-    const double topRadius = shape::ClipRadiusAt(shape::LollipopHead(diameter / 2, outsideDiameter / 2), fluteLength);
     // The default shank is as wide as the ball, since nothing above the equator is wider.
-    const double shoulderDiameter =
-        HasGivenExtender() ? GetShoulderDefinitionExtender().GetDiameter() : std::max(diameter, 2 * topRadius);
+    const double shoulderDiameter = HasGivenExtender() ? GetShoulderDefinitionExtender().GetDiameter() : diameter;
     if (!(outsideDiameter < shoulderDiameter)) throw tqcadcamException(2240);
     if (!(fluteLength > diameter / 2)) throw tqcadcamException(2241);
     if (GetArbor().IsNull() || GetArbor()->GetSolid().IsNull()) throw tqcadcamException(2138);
 
-    SetDefaultExtender(topRadius);
+    BuildProfiles(shape::LollipopHead(diameter / 2, outsideDiameter / 2));
 }
 
 tqLolMill::~tqLolMill() = default;
+
+void tqLolMill::RebuildProfiles() {
+    BuildProfiles(shape::LollipopHead(GetDiameter() / 2, m_outsideDiameter / 2));
+}
 
 void tqLolMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,8 +1,9 @@
-// tqPotGrinderTool: its parameters and their checks.
+// tqPotGrinderTool: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqpotgrindertool.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
 
@@ -20,11 +21,15 @@ tqPotGrinderTool::tqPotGrinderTool(measures::tqUnitsFactory::Units units, const 
                                    const HolderPointer& holder, double diameter, double fluteLength,
                                    double shoulderLength, const tqShoulderDefinitionExtender* extender)
     : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender, CommonRules()) {
-    // The grinding envelope is a cylinder: the top of the cutting profile lies at the tool radius.
-    SetDefaultExtender(diameter / 2);
+    // The grinding envelope is a cylinder of the tool diameter.
+    BuildProfiles(shape::CylinderHead(diameter / 2, fluteLength));
 }
 
 tqPotGrinderTool::~tqPotGrinderTool() = default;
+
+void tqPotGrinderTool::RebuildProfiles() {
+    BuildProfiles(shape::CylinderHead(GetDiameter() / 2, GetFluteLength()));
+}
 
 void tqPotGrinderTool::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

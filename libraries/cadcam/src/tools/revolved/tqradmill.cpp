@@ -1,11 +1,23 @@
-// tqRadMill: its parameters and their checks.
+// tqRadMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqradmill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
-#include "tools/shape/drillingshapes.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The pilot's flat, then the concave quarter that rounds it up to the side; flutes shorter than the corner
+/// radius cut the head inside the arc.
+shape::HeadPath Head(double radius, double cornerRadius) {
+    shape::HeadPath head;
+    head.LineTo(shape::Point(radius - cornerRadius, 0));
+    head.ArcTo(shape::Point(radius, cornerRadius), shape::Point(radius, 0), false);
+    return head;
+}
+
+}  // namespace
 
 tqRadMill::CommonRules tqRadMill::RoundingRules(double cornerRadius) {
     CommonRules rules;
@@ -29,14 +41,14 @@ tqRadMill::tqRadMill(measures::tqUnitsFactory::Units units, const ArborPointer& 
     : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender,
                           RoundingRules(cornerRadius)),
       m_cornerRadius(cornerRadius) {
-    const double radius = diameter / 2;
-    // Flutes shorter than the corner radius cut the head inside its concave arc.
-    const double top =
-        fluteLength < cornerRadius ? shape::ArcCutX(shape::Point(radius, 0), cornerRadius, fluteLength, -1) : radius;
-    SetDefaultExtender(top);
+    BuildProfiles(Head(diameter / 2, cornerRadius));
 }
 
 tqRadMill::~tqRadMill() = default;
+
+void tqRadMill::RebuildProfiles() {
+    BuildProfiles(Head(GetDiameter() / 2, m_cornerRadius));
+}
 
 void tqRadMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,12 +1,33 @@
-// tqSlotMill: its parameters and their checks.
+// tqSlotMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqslotmill.h"
 
 #include <algorithm>
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The disc: the bottom, the lower and upper corners rounded by r = rc* and the side between them, ending on
+/// the upper arc at (R − r, Lf); with the full radius and Lf > D the upper arc ends on the axis.
+shape::HeadPath Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType) {
+    const double radius = diameter / 2;
+    double r = 0;
+    if (cornerRadiusType == tqTypedRevolvedTool::CRT_CORNER) r = cornerRadius;
+    if (cornerRadiusType == tqTypedRevolvedTool::CRT_FULL) r = std::min(radius, fluteLength / 2);
+    if (!(r > 0)) return shape::CylinderHead(radius, fluteLength);
+    using shape::Point;
+    shape::HeadPath head;
+    head.LineTo(Point(radius - r, 0));
+    head.ArcTo(Point(radius, r), Point(radius - r, r), true);
+    head.LineTo(Point(radius, fluteLength - r));
+    head.ArcTo(Point(radius - r, fluteLength), Point(radius - r, fluteLength - r), true);
+    return head;
+}
+
+}  // namespace
 
 tqSlotMill::tqSlotMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                        double diameter, double fluteLength, double shoulderLength, double cornerRadius,
@@ -45,15 +66,14 @@ tqSlotMill::tqSlotMill(measures::tqUnitsFactory::Units units, const ArborPointer
         if (!(fluteLength > 2 * cornerRadius)) throw tqcadcamException(3424);
     }
 
-    const double radius = diameter / 2;
-    double effectiveRadius = 0;
-    if (cornerRadiusType == CRT_CORNER) effectiveRadius = cornerRadius;
-    if (cornerRadiusType == CRT_FULL) effectiveRadius = std::min(radius, fluteLength / 2);
-    // The profile ends on the upper corner arc, at (R − r, Lf).
-    SetDefaultExtender(radius - effectiveRadius);
+    BuildProfiles(Head(diameter, fluteLength, cornerRadius, cornerRadiusType));
 }
 
 tqSlotMill::~tqSlotMill() = default;
+
+void tqSlotMill::RebuildProfiles() {
+    BuildProfiles(Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType));
+}
 
 void tqSlotMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

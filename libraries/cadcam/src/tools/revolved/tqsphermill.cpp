@@ -1,11 +1,21 @@
-// tqSpherMill: its parameters and their checks.
+// tqSpherMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqsphermill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
-#include "tools/shape/drillingshapes.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The quarter of the ball from the tip to its equator; flutes shorter than the radius cut it below.
+shape::HeadPath Head(double radius) {
+    shape::HeadPath head;
+    head.ArcTo(shape::Point(radius, radius), shape::Point(0, radius), true);
+    return head;
+}
+
+}  // namespace
 
 tqSpherMill::tqSpherMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                          double diameter, double fluteLength, double shoulderLength)
@@ -20,13 +30,14 @@ tqSpherMill::tqSpherMill(measures::tqUnitsFactory::Units units, const ArborPoint
                          double diameter, double fluteLength, double shoulderLength,
                          const tqShoulderDefinitionExtender* extender)
     : tqTypedRevolvedTool(units, arbor, holder, diameter, fluteLength, shoulderLength, extender, CommonRules()) {
-    const double radius = diameter / 2;
-    // Flutes shorter than the ball cut it below its equator.
-    const double top = fluteLength < radius ? shape::ArcCutX(shape::Point(0, radius), radius, fluteLength, 1) : radius;
-    SetDefaultExtender(top);
+    BuildProfiles(Head(diameter / 2));
 }
 
 tqSpherMill::~tqSpherMill() = default;
+
+void tqSpherMill::RebuildProfiles() {
+    BuildProfiles(Head(GetDiameter() / 2));
+}
 
 void tqSpherMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

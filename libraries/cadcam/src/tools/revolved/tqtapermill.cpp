@@ -1,4 +1,4 @@
-// tqTaperMill: its parameters and their checks.
+// tqTaperMill: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqtapermill.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
@@ -6,6 +6,20 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
+namespace {
+
+/// The bottom and the side widening upward by the taper angle, the bottom corner rounded. The side runs R
+/// beyond the flutes, long enough for any fillet that fits the bottom.
+shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                          double taperAngle) {
+    const double radius = diameter / 2;
+    const double sideHeight = fluteLength + radius;
+    return shape::MakeRoundedCorner({shape::Point(0, 0), shape::Point(radius, 0),
+                                     shape::Point(radius + sideHeight * shape::TanDegrees(taperAngle), sideHeight)},
+                                    1, cornerRadiusType, cornerRadius);
+}
+
+}  // namespace
 
 tqTaperMill::tqTaperMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                          double diameter, double fluteLength, double shoulderLength, double cornerRadius,
@@ -35,21 +49,17 @@ tqTaperMill::tqTaperMill(measures::tqUnitsFactory::Units units, const ArborPoint
     if (!(taperAngle >= 0.1 && taperAngle <= 89)) throw tqcadcamException(2122);
     if (cornerRadiusType == CRT_CORNER && !(diameter >= 2 * cornerRadius)) throw tqcadcamException(2117);
 
-    const double radius = diameter / 2;
-    // The side runs R beyond the flutes, long enough for any fillet that fits the bottom.
-    const double sideHeight = fluteLength + radius;
-    const shape::Point bottom(radius, 0);
-    const shape::Point side(radius + sideHeight * shape::TanDegrees(taperAngle), sideHeight);
-    const shape::CornerFillet corner =
-        shape::MakeCornerFillet(shape::Point(0, 0), bottom, side, cornerRadiusType, cornerRadius);
+    const shape::RoundedCorner head = Head(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle);
     // The fillet ends at the height rc*·(1 − sin α), which must stay below the shoulder.
-    if (!(shoulderLength > corner.radius * (1 - shape::SinDegrees(taperAngle)))) throw tqcadcamException(2153);
-
-    const shape::HeadPath head = shape::RoundedPolyline({shape::Point(0, 0), bottom, side}, 1, corner);
-    SetDefaultExtender(shape::ClipRadiusAt(head, fluteLength));
+    if (!(shoulderLength > head.fillet.radius * (1 - shape::SinDegrees(taperAngle)))) throw tqcadcamException(2153);
+    BuildProfiles(head.Path());
 }
 
 tqTaperMill::~tqTaperMill() = default;
+
+void tqTaperMill::RebuildProfiles() {
+    BuildProfiles(Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle).Path());
+}
 
 void tqTaperMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

@@ -1,4 +1,4 @@
-// tqTapRH: its parameters and their checks.
+// tqTapRH: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqtaprh.h"
 
 #include "cadcam/tools/tqtoolvisitor.h"
@@ -29,11 +29,15 @@ tqTapRH::tqTapRH(measures::tqUnitsFactory::Units units, const ArborPointer& arbo
       m_tipAngle(tipAngle),
       m_threadsNumber(threadsNumber) {
     detail_::CheckTapLead(diameter, fluteLength, cornerRadius, cornerRadiusType, tipAngle);
-    // The rounded lead ends on the side at the tool radius, within the flutes.
-    SetDefaultExtender(diameter / 2);
+    BuildProfiles(detail_::TapLead(diameter, fluteLength, cornerRadius, cornerRadiusType, tipAngle).Path());
 }
 
 tqTapRH::~tqTapRH() = default;
+
+void tqTapRH::RebuildProfiles() {
+    BuildProfiles(
+        detail_::TapLead(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_tipAngle).Path());
+}
 
 void tqTapRH::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

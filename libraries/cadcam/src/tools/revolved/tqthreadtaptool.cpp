@@ -1,8 +1,9 @@
-// tqThreadTapTool: its parameters and their checks.
+// tqThreadTapTool: its parameters, their checks and its head.
 #include "cadcam/tools/revolved/tqthreadtaptool.h"
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
 
@@ -34,10 +35,14 @@ tqThreadTapTool::tqThreadTapTool(measures::tqUnitsFactory::Units units, const Ar
     if (threadType == TT_TPI && !(tpi > 0)) throw tqcadcamException(3475);
     if (!(threadDirection == TD_LEFT_HANDED || threadDirection == TD_RIGHT_HANDED)) throw tqcadcamException(3472);
     // Threads are not modelled: the envelope is a cylinder up to the flute length.
-    SetDefaultExtender(diameter / 2);
+    BuildProfiles(shape::CylinderHead(diameter / 2, fluteLength));
 }
 
 tqThreadTapTool::~tqThreadTapTool() = default;
+
+void tqThreadTapTool::RebuildProfiles() {
+    BuildProfiles(shape::CylinderHead(GetDiameter() / 2, GetFluteLength()));
+}
 
 void tqThreadTapTool::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }
 

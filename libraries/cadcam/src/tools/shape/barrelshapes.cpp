@@ -17,6 +17,14 @@ double UpperY(const Point& centre, double radius, double x) {
     return centre.y + std::sqrt(radius * radius - dx * dx);
 }
 
+HeadPath LowerFilletPath(const LowerFillet& bottom, const Point& cb, const Point& widest) {
+    HeadPath path;
+    path.LineTo(bottom.t0);
+    path.ArcTo(bottom.tk, bottom.f, true);
+    path.ArcTo(widest, cb, true);
+    return path;
+}
+
 BarrelMillShape MakeBarrelMillShape(double diameter, double fluteLength, double upperDiameter, double cornerRadius,
                                     double profileRadius) {
     BarrelMillShape s;
@@ -44,6 +52,13 @@ TangentBarrel MakeTangentBarrel(double diameter, double profileRadius, double lo
     b.cb = Point(xb, yb);
     b.widest = Point(radius, yb);
     return b;
+}
+
+HeadPath TangentBarrelPath(const TangentBarrel& barrel) {
+    HeadPath path;
+    path.ArcTo(barrel.tip.tl, barrel.tip.cl, true);
+    path.ArcTo(barrel.widest, barrel.cb, true);
+    return path;
 }
 
 TangentMillShape MakeTangentMillShape(double diameter, double fluteLength, double upperDiameter, double profileRadius,

@@ -3,7 +3,7 @@
 // or with ok = false, and the class checks turn that into their numbers.
 #pragma once
 
-#include "tools/shape/profiletoolkit.h"
+#include "tools/shape/headpath.h"
 
 namespace cadcam {
 namespace shape {
@@ -12,6 +12,10 @@ namespace shape {
 double RightX(const Point& centre, double radius, double y);
 /// y of the circle's point at radius x on its upper half (y >= centre.y); NaN when the circle misses x.
 double UpperY(const Point& centre, double radius, double x);
+
+/// The bottom line to bottom.t0, the fillet to bottom.tk and the barrel (centre cb) up to its widest point:
+/// S(0,0) L(t0) A+(tk; f) A+(widest; cb), the start of the barrels whose corner is a LowerFillet.
+HeadPath LowerFilletPath(const LowerFillet& bottom, const Point& cb, const Point& widest);
 
 /// tqBarrelMill: S(0,0) L(bottom.t0) A+(bottom.tk; bottom.f) A+(widest; cb) A+(top; cb).
 struct BarrelMillShape {
@@ -32,6 +36,9 @@ struct TangentBarrel {
     Point widest;   ///< (R, tip.yb)
 };
 TangentBarrel MakeTangentBarrel(double diameter, double profileRadius, double lowerRadius);
+
+/// S(0,0) A+(tip.tl; tip.cl) A+(widest; cb): the tip ball and the barrel up to its widest point.
+HeadPath TangentBarrelPath(const TangentBarrel& barrel);
 
 /// tqBarrelTangentMill: the tangent barrel, then A+(upper; cb) L(top).
 struct TangentMillShape {

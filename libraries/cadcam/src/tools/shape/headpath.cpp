@@ -1,14 +1,40 @@
-// The head path of a typed revolved tool: fillets, the convex tip and the clip at the flute length.
+// Profiles as light paths: fillets, the heads, extend-and-clip, Drop and the conversion to contours.
 #include "tools/shape/headpath.h"
 
 #include <algorithm>
 #include <cmath>
+
+#include "cadcam/geometry/tq2darc.h"
+#include "cadcam/geometry/tq2dline.h"
 
 namespace cadcam {
 namespace shape {
 namespace {
 
 double Square(double v) { return v * v; }
+
+/// The signed angle from the start's to the end's direction about the centre, in (−π, π] radians.
+double ShortSweep(const Point& start, const PathItem& item) {
+    const Point a = start - item.centre;
+    const Point b = item.end - item.centre;
+    return std::atan2(a.Cross(b), a.Dot(b));
+}
+
+/// x where the item from s reaches the height h (s.y <= h <= item.end.y).
+double CutX(const Point& s, const PathItem& item, double h) {
+    const Point& e = item.end;
+    if (!item.arc) return s.x + (h - s.y) * (e.x - s.x) / (e.y - s.y);
+    // Every construction arc lies on one side of its centre: the side of its mid-angle.
+    const Point& c = item.centre;
+    const double r = s.DistanceTo(c);
+    const double start = std::atan2(s.y - c.y, s.x - c.x);
+    double sweep = std::atan2(e.y - c.y, e.x - c.x) - start;
+    const double turn = 2 * std::acos(-1.0);
+    if (item.ccw && sweep <= 0) sweep += turn;
+    if (!item.ccw && sweep >= 0) sweep -= turn;
+    const double side = std::cos(start + sweep / 2) >= 0 ? 1.0 : -1.0;
+    return c.x + side * std::sqrt(std::max(0.0, r * r - Square(h - c.y)));
+}
 
 }  // namespace
 
@@ -52,7 +78,7 @@ CornerFillet MakeCornerFillet(const Point& a, const Point& v, const Point& b, in
     return c;
 }
 
-HeadPath RoundedPolyline(const std::vector<Point>& points, std::size_t corner, const CornerFillet& fillet) {
+HeadPath RoundedCorner::Path() const {
     HeadPath path(points.front());
     const LineLineFillet& f = fillet.fillet;
     for (std::size_t i = 1; i < points.size(); ++i) {
@@ -63,6 +89,21 @@ HeadPath RoundedPolyline(const std::vector<Point>& points, std::size_t corner, c
             path.LineTo(points[i]);
         }
     }
+    return path;
+}
+
+RoundedCorner MakeRoundedCorner(std::vector<Point> points, std::size_t corner, int type, double cornerRadius) {
+    RoundedCorner r;
+    r.fillet = MakeCornerFillet(points[corner - 1], points[corner], points[corner + 1], type, cornerRadius);
+    r.points = std::move(points);
+    r.corner = corner;
+    return r;
+}
+
+HeadPath CylinderHead(double radius, double height) {
+    HeadPath path;
+    path.LineTo(Point(radius, 0));
+    path.LineTo(Point(radius, height));
     return path;
 }
 
@@ -101,27 +142,77 @@ HeadPath ConvexTipHead(double radius, double tipRadius, double flatRadius, doubl
     return path;
 }
 
-double ClipRadiusAt(const HeadPath& path, double h) {
+HeadPath ExtendAndClip(const HeadPath& path, double h) {
+    HeadPath clipped(path.start);
     Point s = path.start;
     for (const PathItem& item : path.items) {
-        const Point& e = item.end;
-        if (e.y >= h) {
-            if (e.y == h) return e.x;
-            if (!item.arc) return s.x + (h - s.y) * (e.x - s.x) / (e.y - s.y);
-            // Every construction arc lies on one side of its centre: the side of its mid-angle.
-            const Point& c = item.centre;
-            const double r = s.DistanceTo(c);
-            const double start = std::atan2(s.y - c.y, s.x - c.x);
-            double sweep = std::atan2(e.y - c.y, e.x - c.x) - start;
-            const double turn = 2 * std::acos(-1.0);
-            if (item.ccw && sweep <= 0) sweep += turn;
-            if (!item.ccw && sweep >= 0) sweep -= turn;
-            const double side = std::cos(start + sweep / 2) >= 0 ? 1.0 : -1.0;
-            return c.x + side * std::sqrt(std::max(0.0, r * r - Square(h - c.y)));
+        clipped.items.push_back(item);
+        if (item.end.y >= h) {
+            if (item.end.y != h) clipped.items.back().end = Point(CutX(s, item, h), h);
+            return clipped;
         }
-        s = e;
+        s = item.end;
     }
-    return s.x;
+    clipped.LineTo(Point(s.x, h));
+    return clipped;
+}
+
+void Drop(HeadPath& path) {
+    double size = std::max(std::fabs(path.start.x), std::fabs(path.start.y));
+    for (const PathItem& item : path.items) {
+        size = std::max({size, std::fabs(item.end.x), std::fabs(item.end.y)});
+        if (item.arc) size = std::max({size, std::fabs(item.centre.x), std::fabs(item.centre.y)});
+    }
+    const double epsilon = Epsilon(size);
+    std::vector<PathItem>& items = path.items;
+    for (std::size_t i = 0; i < items.size();) {
+        const Point& s = i == 0 ? path.start : items[i - 1].end;
+        const PathItem& item = items[i];
+        // An arc no larger than ε is a fillet rounding up to nothing, which the profile rules would refuse.
+        const bool degenerate = item.arc
+                                    ? s.DistanceTo(item.centre) <= epsilon || std::fabs(ShortSweep(s, item)) <= 1e-12
+                                    : s.DistanceTo(item.end) < epsilon;
+        if (!degenerate) {
+            ++i;
+            continue;
+        }
+        if (i > 0 && i + 1 == items.size()) items[i - 1].end = item.end;
+        items.erase(items.begin() + static_cast<std::ptrdiff_t>(i));
+    }
+}
+
+tq2dContour<double> ToContour(const HeadPath& path) {
+    tq2dContour<double> contour;
+    Point s = path.start;
+    for (const PathItem& item : path.items) {
+        if (item.arc) {
+            const tqArcDirection direction = item.ccw ? tqArcDirection::Counterclockwise : tqArcDirection::Clockwise;
+            contour.Append(tq2dContour<double>::Item(new tq2dArc<double>(s, item.end, item.centre, direction)));
+        } else {
+            contour.Append(tq2dContour<double>::Item(new tq2dLine<double>(s, item.end)));
+        }
+        s = item.end;
+    }
+    return contour;
+}
+
+HeadPath PathOf(const tq2dContour<double>& contour, double dy) {
+    const Point shift(0, dy);
+    HeadPath path;
+    bool started = false;
+    for (const tq2dContour<double>::Item& item : contour) {
+        if (const auto line = item.DynamicCast<tq2dLine<double>>(); line.IsNotNull()) {
+            if (!started) path.start = line->GetStart() + shift;
+            path.LineTo(line->GetEnd() + shift);
+        } else if (const auto arc = item.DynamicCast<tq2dArc<double>>(); arc.IsNotNull()) {
+            if (!started) path.start = arc->GetStart() + shift;
+            path.ArcTo(arc->GetEnd() + shift, arc->GetCentre() + shift, arc->IsCounterclockwise());
+        } else {
+            continue;
+        }
+        started = true;
+    }
+    return path;
 }
 
 }  // namespace shape

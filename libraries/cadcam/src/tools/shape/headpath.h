@@ -1,16 +1,17 @@
-// The head of a typed revolved tool as a light path of lines and arcs: corner fillets on a polyline, the
-// convex tip head, and the radius where the path is clipped at the flute length.
+// Profiles as light paths of lines and arcs: the heads of typed revolved tools with their corner fillets,
+// extend-and-clip at a height, Drop, and the conversion to and from a contour.
 #pragma once
 
 #include <cstddef>
 #include <vector>
 
+#include "cadcam/geometry/tq2dcontour.h"
 #include "tools/shape/profiletoolkit.h"
 
 namespace cadcam {
 namespace shape {
 
-/// One item of a head path: a line, or an arc about `centre` (counterclockwise when ccw), ending at `end`.
+/// One item of a path: a line, or an arc about `centre` (counterclockwise when ccw), ending at `end`.
 struct PathItem {
     Point end;
     bool arc = false;
@@ -18,7 +19,7 @@ struct PathItem {
     bool ccw = true;
 };
 
-/// A chain of items from `start`, as a head is drawn before it is clipped.
+/// A chain of items from `start`. Unlike a contour it may hold degenerate items, which Drop removes.
 struct HeadPath {
     Point start;
     std::vector<PathItem> items;
@@ -45,8 +46,20 @@ struct CornerFillet {
 /// The fillet at V; `type` must be 0, 1 or 2.
 CornerFillet MakeCornerFillet(const Point& a, const Point& v, const Point& b, int type, double cornerRadius);
 
-/// The polyline through points with vertex `corner` (neither the first nor the last) rounded by `fillet`.
-HeadPath RoundedPolyline(const std::vector<Point>& points, std::size_t corner, const CornerFillet& fillet);
+/// A polyline head with one vertex rounded: the shape of most non-barrel heads.
+struct RoundedCorner {
+    std::vector<Point> points;  ///< the sharp head, from the tip
+    std::size_t corner = 1;     ///< the rounded vertex, neither the first nor the last
+    CornerFillet fillet;        ///< the fillet at that vertex
+
+    /// The polyline with the vertex replaced by the fillet's line end and arc.
+    HeadPath Path() const;
+};
+/// Rounds points[corner] with MakeCornerFillet.
+RoundedCorner MakeRoundedCorner(std::vector<Point> points, std::size_t corner, int type, double cornerRadius);
+
+/// The flat end and cylindrical side S(0,0) L(R,0) L(R,h).
+HeadPath CylinderHead(double radius, double height);
 
 /// The corners of the face mill head S(0,0) L(R,0) L(OD/2,h) L(OD/2,Lf) before its fillet at (R,0). A lead face
 /// that Drop would remove (shorter than ε) is left out, the side then leaving (R,0) towards (OD/2,Lf).
@@ -61,9 +74,21 @@ HeadPath LollipopHead(double radius, double neckRadius);
 /// tipRadius > cornerRadius and (tipRadius − cornerRadius) >= (radius − cornerRadius − flatRadius) >= 0.
 HeadPath ConvexTipHead(double radius, double tipRadius, double flatRadius, double cornerRadius);
 
-/// Extend and clip at h for a path whose y never decreases: the x at which the path first reaches h, or the
-/// last point's x when it ends below h (the path goes on vertically).
-double ClipRadiusAt(const HeadPath& path, double h);
+/// Extend and clip at h, for a path whose y never decreases: a vertical line up to h when the path ends below
+/// it, else the path up to its first item that reaches h, cut there at y = h exactly.
+HeadPath ExtendAndClip(const HeadPath& path, double h);
+
+/// Drop: removes lines shorter than ε, arcs of radius at most ε (radius 0 included) and arcs sweeping at most
+/// 1e-12 rad, ε taken over the path. The next item then starts where the removed one started; a removed last item
+/// leaves its end to the item before, so the first and the last point stay exactly where they were.
+void Drop(HeadPath& path);
+
+/// The path as a contour of tq2dLine and tq2dArc items; a path without items gives an empty contour.
+tq2dContour<double> ToContour(const HeadPath& path);
+
+/// The lines and arcs of a contour moved by dy along Y, as a path; items of other kinds are skipped. An empty
+/// contour gives a path without items at the origin.
+HeadPath PathOf(const tq2dContour<double>& contour, double dy);
 
 }  // namespace shape
 }  // namespace cadcam

@@ -13,6 +13,8 @@ double Epsilon(double size) { return 1e-9 * std::max(1.0, size); }
 
 double TanDegrees(double degrees) {
     if (degrees == 0) return 0;
+    // A right-angled corner gets tangent lengths equal to its radius, and its arc exactly a quarter turn.
+    if (degrees == 45 || degrees == -45) return degrees > 0 ? 1 : -1;
     return std::tan(tqToRadians(degrees));
 }
 
@@ -36,7 +38,8 @@ double ConeHeight(double radius, double halfAngle) {
 Point Direction(const Point& a, const Point& b) {
     const Point d = b - a;
     const double length = d.Length();
-    return length > 0 ? d * (1 / length) : Point();
+    // Divided, not multiplied by the reciprocal, which overflows for a subnormal length.
+    return length > 0 ? Point(d.x / length, d.y / length) : Point();
 }
 
 LineLineFillet MakeLineLineFillet(const Point& v, const Point& u1, double la, const Point& u2, double lb, double r) {

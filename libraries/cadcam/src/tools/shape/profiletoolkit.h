@@ -11,7 +11,7 @@ using Point = tqTPoint2d<double>;
 
 /// ε(S) = 1e-9·max(1, S), S the largest absolute coordinate of what is tested.
 double Epsilon(double size);
-/// Tangent of an angle in degrees, exactly 0 at 0.
+/// Tangent of an angle in degrees, exactly 0 at 0 and ±1 at ±45.
 double TanDegrees(double degrees);
 /// Sine and cosine of an angle in degrees, exact on quarter turns.
 double SinDegrees(double degrees);

@@ -2,13 +2,16 @@
 #include "cadcam/tools/turning/tqcontourturningtool.h"
 
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
 tqContourTurningTool::tqContourTurningTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                                            const HolderPointer& holder, double insertThickness,
                                            const tqContourTurningSolidDefinition<double>& contourSolid)
-    : tqTypedExtrudedTool(units, arbor, holder, insertThickness), m_contourSolid(contourSolid) {}
+    : tqTypedExtrudedTool(units, arbor, holder, insertThickness), m_contourSolid(contourSolid) {
+    BuildCuttingPart(units);
+}
 
 tqContourTurningTool::~tqContourTurningTool() = default;
 
@@ -22,6 +25,10 @@ void tqContourTurningTool::Scale(measures::tqUnitsFactory::Units units, const do
     // The solid clones its contour before scaling it, so copies of this tool that share the items keep theirs.
     ScaleNested(m_contourSolid, units, factor);
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqContourTurningTool::MakeInsertContour() const {
+    return shape::Counterclockwise(m_contourSolid.GetContour());
 }
 
 }  // namespace cadcam

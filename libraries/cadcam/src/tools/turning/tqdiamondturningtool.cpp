@@ -1,8 +1,11 @@
 // tqDiamondTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqdiamondturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -17,6 +20,7 @@ tqDiamondTurningTool::tqDiamondTurningTool(measures::tqUnitsFactory::Units units
     if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
     if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
     if (!(formAngle > 0 && formAngle < 90)) throw tqcadcamException(2346);
+    BuildCuttingPart(units);
 }
 
 tqDiamondTurningTool::~tqDiamondTurningTool() = default;
@@ -32,6 +36,11 @@ void tqDiamondTurningTool::Scale(measures::tqUnitsFactory::Units units, const do
     m_cornerRadius *= factor;
     m_inscribedCircleDiameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqDiamondTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::Rhombus(m_inscribedCircleDiameter, m_formAngle),
+                                 std::vector<double>(4, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

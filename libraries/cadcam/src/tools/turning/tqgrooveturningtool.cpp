@@ -6,7 +6,7 @@
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
-#include "tools/shape/profiletoolkit.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -31,10 +31,8 @@ tqGrooveTurningTool::tqGrooveTurningTool(measures::tqUnitsFactory::Units units, 
     }
     if (!(e > 0 && e < 90)) throw tqcadcamException(2061);
 
-    // The shoulder rise between blade and body: both sides step out by (D − B)/2, type B one side by D − B.
-    double h = 0;
-    if (type == TYPE_A || type == TYPE_D) h = (d - b) / 2 * shape::TanDegrees(e);
-    if (type == TYPE_B) h = (d - b) * shape::TanDegrees(e);
+    // The shoulder rise between blade and body, as the insert's outline has it.
+    const double h = shape::GrooveShoulderRise(type, b, d, e);
     if (!(a > c + h)) throw tqcadcamException(2063);
 
     switch (type) {
@@ -59,7 +57,7 @@ tqGrooveTurningTool::tqGrooveTurningTool(measures::tqUnitsFactory::Units units, 
             break;
         case TYPE_C: {
             // The relief narrows the blade from B at height t to D at the cutting depth.
-            const double t = c - (b - d) / 2 / shape::TanDegrees(e);
+            const double t = shape::GrooveReliefHeight(b, c, d, e);
             cornerFits = r < b / 2 && t >= r;
             break;
         }
@@ -70,12 +68,13 @@ tqGrooveTurningTool::tqGrooveTurningTool(measures::tqUnitsFactory::Units units, 
             break;
         }
         case TYPE_E: {
-            const double hv = b / 2 / shape::TanDegrees(e);
+            const double hv = shape::GrooveTipHeight(b, e);
             cornerFits = r / shape::TanDegrees(e) <= b / 2 / shape::SinDegrees(e) && hv <= c;
             break;
         }
     }
     if (!cornerFits) throw tqcadcamException(2278);
+    BuildCuttingPart(units);
 }
 
 tqGrooveTurningTool::~tqGrooveTurningTool() = default;
@@ -94,6 +93,14 @@ void tqGrooveTurningTool::Scale(measures::tqUnitsFactory::Units units, const dou
     m_c *= factor;
     m_d *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqGrooveTurningTool::MakeInsertContour() const {
+    const shape::Polygon sharp = shape::GroovePolygon(m_type, m_a, m_b, m_c, m_d, m_e);
+    // Types A to D stand on their centred tip edge already; the V tip is moved onto its lowest point.
+    if (m_type == TYPE_E) return shape::RoundedContour(sharp, {m_cornerRadius}, true);
+    const double r = m_type == TYPE_D ? m_b / 2 : m_cornerRadius;
+    return shape::RoundedContour(sharp, {r, r}, false);
 }
 
 }  // namespace cadcam

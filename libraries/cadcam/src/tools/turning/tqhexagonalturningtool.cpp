@@ -1,8 +1,11 @@
 // tqHexagonalTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqhexagonalturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -15,6 +18,7 @@ tqHexagonalTurningTool::tqHexagonalTurningTool(measures::tqUnitsFactory::Units u
     if (!(cornerRadius > 0)) throw tqcadcamException(2342);
     if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
     if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    BuildCuttingPart(units);
 }
 
 tqHexagonalTurningTool::~tqHexagonalTurningTool() = default;
@@ -30,6 +34,11 @@ void tqHexagonalTurningTool::Scale(measures::tqUnitsFactory::Units units, const 
     m_cornerRadius *= factor;
     m_inscribedCircleDiameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqHexagonalTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::RegularPolygon(6, m_inscribedCircleDiameter),
+                                 std::vector<double>(6, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

@@ -1,8 +1,11 @@
 // tqOctagonalTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqoctagonalturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -15,6 +18,7 @@ tqOctagonalTurningTool::tqOctagonalTurningTool(measures::tqUnitsFactory::Units u
     if (!(cornerRadius > 0)) throw tqcadcamException(2342);
     if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
     if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    BuildCuttingPart(units);
 }
 
 tqOctagonalTurningTool::~tqOctagonalTurningTool() = default;
@@ -30,6 +34,11 @@ void tqOctagonalTurningTool::Scale(measures::tqUnitsFactory::Units units, const 
     m_cornerRadius *= factor;
     m_inscribedCircleDiameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqOctagonalTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::RegularPolygon(8, m_inscribedCircleDiameter),
+                                 std::vector<double>(8, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

@@ -1,9 +1,11 @@
 // tqParallelogramTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqparallelogramturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
-#include "tools/shape/profiletoolkit.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -22,6 +24,7 @@ tqParallelogramTurningTool::tqParallelogramTurningTool(measures::tqUnitsFactory:
     if (!(cornerRadius < width / 2)) throw tqcadcamException(2344);
     // The two fillets on a long edge take 2·rε/sin ε of it between them.
     if (!(length > 2 * cornerRadius / shape::SinDegrees(formAngle))) throw tqcadcamException(2348);
+    BuildCuttingPart(units);
 }
 
 tqParallelogramTurningTool::~tqParallelogramTurningTool() = default;
@@ -38,6 +41,11 @@ void tqParallelogramTurningTool::Scale(measures::tqUnitsFactory::Units units, co
     m_width *= factor;
     m_length *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqParallelogramTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::Parallelogram(m_formAngle, m_length, m_width),
+                                 std::vector<double>(4, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

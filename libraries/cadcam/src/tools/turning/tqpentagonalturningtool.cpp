@@ -1,8 +1,11 @@
 // tqPentagonalTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqpentagonalturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -15,6 +18,7 @@ tqPentagonalTurningTool::tqPentagonalTurningTool(measures::tqUnitsFactory::Units
     if (!(cornerRadius > 0)) throw tqcadcamException(2342);
     if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
     if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    BuildCuttingPart(units);
 }
 
 tqPentagonalTurningTool::~tqPentagonalTurningTool() = default;
@@ -30,6 +34,11 @@ void tqPentagonalTurningTool::Scale(measures::tqUnitsFactory::Units units, const
     m_cornerRadius *= factor;
     m_inscribedCircleDiameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqPentagonalTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::RegularPolygon(5, m_inscribedCircleDiameter),
+                                 std::vector<double>(5, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

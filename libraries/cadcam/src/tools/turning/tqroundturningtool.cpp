@@ -3,6 +3,7 @@
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -10,6 +11,7 @@ tqRoundTurningTool::tqRoundTurningTool(measures::tqUnitsFactory::Units units, co
                                        const HolderPointer& holder, double insertThickness, double diameter)
     : tqTypedExtrudedTool(units, arbor, holder, insertThickness), m_diameter(diameter) {
     if (!(diameter > 0)) throw tqcadcamException(2349);
+    BuildCuttingPart(units);
 }
 
 tqRoundTurningTool::~tqRoundTurningTool() = default;
@@ -24,5 +26,7 @@ void tqRoundTurningTool::Scale(measures::tqUnitsFactory::Units units, const doub
     m_diameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
 }
+
+tq2dContour<double> tqRoundTurningTool::MakeInsertContour() const { return shape::CircleContour(m_diameter); }
 
 }  // namespace cadcam

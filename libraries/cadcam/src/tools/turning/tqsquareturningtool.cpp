@@ -1,8 +1,11 @@
 // tqSquareTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqsquareturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -15,6 +18,7 @@ tqSquareTurningTool::tqSquareTurningTool(measures::tqUnitsFactory::Units units, 
     if (!(cornerRadius > 0)) throw tqcadcamException(2342);
     if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
     if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    BuildCuttingPart(units);
 }
 
 tqSquareTurningTool::~tqSquareTurningTool() = default;
@@ -30,6 +34,11 @@ void tqSquareTurningTool::Scale(measures::tqUnitsFactory::Units units, const dou
     m_cornerRadius *= factor;
     m_inscribedCircleDiameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqSquareTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::RegularPolygon(4, m_inscribedCircleDiameter),
+                                 std::vector<double>(4, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

@@ -1,8 +1,11 @@
 // tqTriangleTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqtriangleturningtool.h"
 
+#include <vector>
+
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
+#include "tools/shape/insertshapes.h"
 
 namespace cadcam {
 
@@ -15,6 +18,7 @@ tqTriangleTurningTool::tqTriangleTurningTool(measures::tqUnitsFactory::Units uni
     if (!(cornerRadius > 0)) throw tqcadcamException(2342);
     if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
     if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    BuildCuttingPart(units);
 }
 
 tqTriangleTurningTool::~tqTriangleTurningTool() = default;
@@ -30,6 +34,11 @@ void tqTriangleTurningTool::Scale(measures::tqUnitsFactory::Units units, const d
     m_cornerRadius *= factor;
     m_inscribedCircleDiameter *= factor;
     tqTypedExtrudedTool::Scale(units, factor);
+}
+
+tq2dContour<double> tqTriangleTurningTool::MakeInsertContour() const {
+    return shape::RoundedContour(shape::RegularPolygon(3, m_inscribedCircleDiameter),
+                                 std::vector<double>(3, m_cornerRadius), true);
 }
 
 }  // namespace cadcam

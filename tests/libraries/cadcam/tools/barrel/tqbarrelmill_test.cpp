@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "barreltest.h"
+#include "libraries/cadcam/tools/revolved/profilecheck.h"
 
 namespace {
 
@@ -79,6 +81,19 @@ TEST(tqBarrelMill, CommonRulesComeFirst) {
     EXPECT_EQ(RaisedBy([&] { Make(p); }), 2310);
     const Mill::tqShoulderDefinitionExtender below(measures::tqUnitsFactory::Metric, 12, Down(20));
     EXPECT_EQ(RaisedBy([&] { Mill(measures::tqUnitsFactory::Metric, {}, {}, 10, 20, 40, 0, 1, 30, below); }), 2187);
+}
+
+// A barrel centred on the axis (D = 2·Rp) at yb = 4, whose corner fillet and barrel meet at whole numbers.
+TEST(tqBarrelMill, BuildsTheFilletAndTheBarrelSplitAtItsWidestPoint) {
+    using namespace profilecheck;
+    Params p;
+    p.lf = 8, p.ls = 20, p.rc = 2.5, p.rp = 5;
+    const Mill mill = Make(p);
+    const double degrees = 180 / std::acos(-1.0);
+    const double low = std::atan2(3.0, 4.0) * degrees;  // the angle of (4, 3), 36.87°
+    ExpectProfile(ProfileOf(*mill.GetCuttingPart()), Point(0, 0),
+                  {L(2, 0), A(4, 1, 2, 2.5, 90 - low), A(5, 4, 0, 4, low), A(3, 8, 0, 4, 90 - low)}, 0);
+    ExpectProfile(mill.GetNonCuttingToolProfile(), Point(0, 8), {L(5, 8), L(5, 20)}, 0);
 }
 
 }  // namespace

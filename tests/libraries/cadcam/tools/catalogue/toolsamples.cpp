@@ -2,8 +2,8 @@
 #include "toolsamples.h"
 
 #include "cadcam/geometry/tq2dline.h"
+#include "cadcam/tools/parts/tqdefaulttoolparts.h"
 #include "cadcam/tools/solids/tqrevolvedsoliddefinition.h"
-#include "cadcam/tools/solids/tqturningsoliddefinition.h"
 
 namespace tqtest {
 namespace {
@@ -16,7 +16,8 @@ using Units = measures::tqUnitsFactory::Units;
 misc::tqAutoPointer<cadcam::tqSolidDefinition<double>> Polyline(Units units, std::vector<tqPoint2d> points) {
     tq2dContour<double> profile;
     for (std::size_t i = 1; i < points.size(); ++i) {
-        profile.Append(misc::tqAutoPointer<cadcam::tq2dGeometry<double>>(new tq2dLine<double>(points[i - 1], points[i])));
+        profile.Append(
+            misc::tqAutoPointer<cadcam::tq2dGeometry<double>>(new tq2dLine<double>(points[i - 1], points[i])));
     }
     return misc::tqAutoPointer<cadcam::tqSolidDefinition<double>>(
         new cadcam::tqRevolvedSolidDefinition<double>(units, profile));
@@ -39,17 +40,11 @@ const SampleTable& AllSamples() {
 }
 
 misc::tqAutoPointer<cadcam::tqArborDefinition<double>> MillingArbor(Units units) {
-    const bool metric = units == measures::tqUnitsFactory::Metric;
-    auto solid = metric ? Polyline(units, {{0, 0}, {12, 0}, {17, 30}, {17, 45}})
-                        : Polyline(units, {{0, 0}, {0.5, 0}, {0.7, 1.2}, {0.7, 1.75}});
-    return misc::tqAutoPointer<cadcam::tqArborDefinition<double>>(new cadcam::tqArborDefinition<double>(units, solid));
+    return cadcam::tqDefaultToolParts::MillingArbor(units);
 }
 
 misc::tqAutoPointer<cadcam::tqHolderDefinition<double>> MillingHolder(Units units) {
-    const bool metric = units == measures::tqUnitsFactory::Metric;
-    auto solid = metric ? Polyline(units, {{0, 0}, {25, 0}, {25, 15}, {32, 15}, {32, 35}, {22, 70}})
-                        : Polyline(units, {{0, 0}, {1, 0}, {1, 0.6}, {1.25, 0.6}, {1.25, 1.4}, {0.875, 2.75}});
-    return misc::tqAutoPointer<cadcam::tqHolderDefinition<double>>(new cadcam::tqHolderDefinition<double>(units, solid));
+    return cadcam::tqDefaultToolParts::MillingHolder(units);
 }
 
 misc::tqAutoPointer<cadcam::tqArborDefinition<double>> OtherArbor() {
@@ -65,19 +60,11 @@ misc::tqAutoPointer<cadcam::tqHolderDefinition<double>> OtherHolder() {
 }
 
 misc::tqAutoPointer<cadcam::tqHolderDefinition<double>> TurningHolder(int insert) {
-    using Turning = cadcam::tqTurningSolidDefinition<double>;
-    misc::tqAutoPointer<cadcam::tqSolidDefinition<double>> solid(
-        new Turning(measures::tqUnitsFactory::Metric, 125, Turning::H_RIGHT, Turning::SK_RECTANGULAR,
-                    static_cast<Turning::Insert>(insert), Turning::GENERIC_TYPE_A, 25, 25, 32, 32, 0, 0, 0, 0, 0));
-    return misc::tqAutoPointer<cadcam::tqHolderDefinition<double>>(
-        new cadcam::tqHolderDefinition<double>(measures::tqUnitsFactory::Metric, solid));
+    return cadcam::tqDefaultToolParts::TurningHolder(measures::tqUnitsFactory::Metric, insert);
 }
 
 misc::tqAutoPointer<cadcam::tqArborDefinition<double>> EmptyArbor() {
-    misc::tqAutoPointer<cadcam::tqSolidDefinition<double>> solid(
-        new cadcam::tqRevolvedSolidDefinition<double>(measures::tqUnitsFactory::Metric));
-    return misc::tqAutoPointer<cadcam::tqArborDefinition<double>>(
-        new cadcam::tqArborDefinition<double>(measures::tqUnitsFactory::Metric, solid));
+    return cadcam::tqDefaultToolParts::TurningArbor(measures::tqUnitsFactory::Metric);
 }
 
 }  // namespace tqtest

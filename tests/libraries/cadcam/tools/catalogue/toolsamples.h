@@ -54,7 +54,7 @@ misc::tqAutoPointer<cadcam::tqHolderDefinition<double>> MillingHolder(
 /// A second, different arbor and holder, for variants.
 misc::tqAutoPointer<cadcam::tqArborDefinition<double>> OtherArbor();
 misc::tqAutoPointer<cadcam::tqHolderDefinition<double>> OtherHolder();
-/// A metric turning holder (tqTurningSolidDefinition) of generic type a for the given insert number.
+/// The default metric turning holder (tqTurningSolidDefinition) for the given insert number.
 misc::tqAutoPointer<cadcam::tqHolderDefinition<double>> TurningHolder(int insert = 0);
 /// An arbor with an empty revolved solid, as turning tools carry.
 misc::tqAutoPointer<cadcam::tqArborDefinition<double>> EmptyArbor();

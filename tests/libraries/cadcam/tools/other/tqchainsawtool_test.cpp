@@ -3,7 +3,12 @@
 
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
+#include "cadcam/geometry/tq2darc.h"
+#include "cadcam/geometry/tq2dcontourproperties.h"
+#include "cadcam/tools/parts/tqcuttingpartdefinition.h"
+#include "cadcam/tools/solids/tqextrudedsoliddefinition.h"
 #include "othertestsupport.h"
 
 namespace othertest {
@@ -96,6 +101,47 @@ TEST(tqChainSawTool, TheTipRoundingMustFitTheBlade) {
     EXPECT_NO_THROW(Make(With(With(With(kSimple, &Saw::straight, 0), &Saw::upper, 20), &Saw::r, 4.9)));
     // The straight blade ignores the straight length beyond the length rule.
     EXPECT_NO_THROW(Make(With(kStraight, &Saw::straight, -50)));
+}
+
+/// The blade's one contour; its solid is centred on the rake plane with the blade's thickness.
+cadcam::tq2dContour<double> BladeContour(const tqChainSawTool& saw) {
+    const auto solid = saw.GetCuttingPart()->GetSolid().DynamicCast<cadcam::tqExtrudedSolidDefinition<double>>();
+    if (solid.IsNull() || solid->GetContours().size() != 1) throw std::logic_error("not a one-contour extrusion");
+    EXPECT_EQ(solid->GetConstructionPlane(), cadcam::tqTPoint3d<double>(0, -1, 0));
+    EXPECT_EQ(solid->GetPlaneZ(), -saw.GetBladeThickness() / 2);
+    EXPECT_EQ(solid->GetExtrusionVector(), cadcam::tqTPoint3d<double>(0, -saw.GetBladeThickness(), 0));
+    EXPECT_TRUE(cadcam::tqIsClosedContinuousAndSimple(solid->GetContours()[0]));
+    return solid->GetContours()[0];
+}
+
+TEST(tqChainSawTool, TheBladeIsItsRoundedOutlineWithTheTipOnZero) {
+    const cadcam::tq2dContour<double> simple = BladeContour(Make(kSimple));
+    const cadcam::tq2dContourProperties<double> items(simple);
+    const cadcam::tqPoint2d ends[] = {{-3, 0}, {3, 0}, {5, 2}, {5, 60}, {3, 100}, {-3, 100}, {-5, 60}, {-5, 2}};
+    ASSERT_EQ(items.GetCount(), 8u);
+    for (std::size_t i = 0; i < 8; ++i) {
+        EXPECT_NEAR(items.GetEnd(i).x, ends[i].x, 1e-12) << i;
+        EXPECT_NEAR(items.GetEnd(i).y, ends[i].y, 1e-12) << i;
+    }
+    EXPECT_EQ(items.GetArc(0)->GetCentre(), cadcam::tqPoint2d(-3, 2));
+    EXPECT_NEAR(items.GetArc(2)->GetCentre().x, 3, 1e-12);
+    // A full radius tip is two quarter arcs meeting at the origin, with no tip edge between them.
+    Saw full = kStraight;
+    full.radiusType = tqChainSawTool::SCRT_FULL;
+    const cadcam::tq2dContourProperties<double> tip(BladeContour(Make(full)));
+    ASSERT_NE(tip.GetArc(0), nullptr);
+    ASSERT_NE(tip.GetArc(1), nullptr);
+    EXPECT_NEAR(tip.GetArc(0)->GetRadius(), 5, 1e-12);
+    EXPECT_NEAR(tip.GetEnd(0).x, 0, 1e-12);
+    EXPECT_NEAR(tip.GetEnd(0).y, 0, 1e-12);
+    // A change of units builds the blade again from the scaled sizes.
+    tqChainSawTool inch = Make(kSimple);
+    inch.SetUnits(kInch);
+    const tqChainSawTool fresh(kInch, inch.GetArbor(), inch.GetHolder(), inch.GetCornerRadius(),
+                               inch.GetCornerRadiusType(), inch.GetChainSawType(), inch.GetBladeWidth(),
+                               inch.GetBladeThickness(), inch.GetBladeLength(), inch.GetStraightBladeLength(),
+                               inch.GetBladeUpperWidth());
+    EXPECT_TRUE(inch.GetCuttingPart()->IsEqual(*fresh.GetCuttingPart()));
 }
 
 }  // namespace

@@ -3,7 +3,12 @@
 
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
+#include "cadcam/geometry/tq2darc.h"
+#include "cadcam/geometry/tq2dcontourproperties.h"
+#include "cadcam/tools/parts/tqcuttingpartdefinition.h"
+#include "cadcam/tools/solids/tqextrudedsoliddefinition.h"
 #include "othertestsupport.h"
 #include "tools/shape/profiletoolkit.h"
 
@@ -107,6 +112,39 @@ TEST(tqOpticDiamondTool, TheNoseMustFitItsEdges) {
         EXPECT_NO_THROW(Make(Type(With(kFull, &Optic::radius, sideLimit * (1 - 1e-12)), type)));
         EXPECT_THROW_CODE(Make(Type(With(kFull, &Optic::radius, sideLimit * (1 + 1e-12)), type)), E, 3400, radiusText);
     }
+}
+
+/// The nose arc of the blade, after checking the solid lies in the turning plane with the tool's thickness.
+cadcam::tq2dArc<double> Nose(const tqOpticDiamondTool& tool, std::size_t count) {
+    const auto solid = tool.GetCuttingPart()->GetSolid().DynamicCast<cadcam::tqExtrudedSolidDefinition<double>>();
+    if (solid.IsNull() || solid->GetContours().size() != 1) throw std::logic_error("not a one-contour extrusion");
+    EXPECT_EQ(solid->GetExtrusionVector(), cadcam::tqTPoint3d<double>(0, -tool.GetThickness(), 0));
+    EXPECT_EQ(solid->GetPlaneZ(), 0.0);
+    const cadcam::tq2dContourProperties<double> items(solid->GetContours()[0]);
+    EXPECT_TRUE(cadcam::tqIsClosedContinuousAndSimple(solid->GetContours()[0]));
+    EXPECT_GT(items.GetSignedArea(), 0);
+    EXPECT_EQ(items.GetCount(), count);
+    if (items.GetArc(0) == nullptr) throw std::logic_error("no nose");
+    return *items.GetArc(0);
+}
+
+TEST(tqOpticDiamondTool, TheNoseStandsOnTheOrigin) {
+    // Full: the flanks meet at the included angle; the nose arc turns by 180° minus it.
+    const cadcam::tq2dArc<double> full = Nose(Make(kFull), 6);
+    EXPECT_EQ(full.GetCentre(), cadcam::tqPoint2d(0, 0.5));
+    EXPECT_NEAR(full.GetSweep(), 120, 1e-9);
+    EXPECT_NEAR(full.GetEnd().x, -full.GetStart().x, 1e-12);
+    // Left: the flank meets the axis side, which the move to the centre (0, r) puts at u = r.
+    const cadcam::tq2dArc<double> left = Nose(Make(Type(kFull, tqOpticDiamondTool::RT_LEFT)), 5);
+    EXPECT_EQ(left.GetCentre(), cadcam::tqPoint2d(0, 0.5));
+    EXPECT_NEAR(left.GetSweep(), 120, 1e-9);
+    EXPECT_NEAR(left.GetEnd().x, 0.5, 1e-12);
+    EXPECT_NEAR(left.GetEnd().y, 0.5, 1e-12);
+    const cadcam::tq2dArc<double> right = Nose(Make(Type(kFull, tqOpticDiamondTool::RT_RIGHT)), 5);
+    EXPECT_NEAR(right.GetStart().x, -0.5, 1e-12);
+    tqOpticDiamondTool inch = Make(kFull);
+    inch.SetUnits(kInch);
+    EXPECT_EQ(Nose(inch, 6).GetCentre(), cadcam::tqPoint2d(0, inch.GetRadius()));
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 #include <limits>
 
+#include "cadcam/tools/parts/tqcuttingpartdefinition.h"
+#include "cadcam/tools/solids/tqwiresoliddefinition.h"
 #include "othertestsupport.h"
 
 namespace othertest {
@@ -23,6 +25,14 @@ TEST(tqWireTool, TakesAnyValuesAndScalesItsLengths) {
             return std::vector<double>{t.GetWireDiameter(), t.GetWireLength()};
         },
         [](const tqWireTool& t) { return std::vector<double>{double(t.HasInfiniteLength())}; });
+}
+
+TEST(tqWireTool, ItsCuttingPartIsItsWire) {
+    tqWireTool wire(kMetric, Arbor(), Holder(), 0.25, 400, true);
+    wire.SetUnits(kInch);
+    const auto solid = wire.GetCuttingPart()->GetSolid().DynamicCast<cadcam::tqWireSolidDefinition<double>>();
+    ASSERT_TRUE(solid.IsNotNull());
+    EXPECT_EQ(*solid, cadcam::tqWireSolidDefinition<double>(kInch, wire.GetWireDiameter(), wire.GetWireLength(), true));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "cadcam/tools/revolved/tqgenericrevolvedtool.h"
 
 #include "cadcam/tools/solids/tqmeshsoliddefinition.h"
+#include "libraries/cadcam/tools/revolved/profilecheck.h"
 #include "partsamples.h"
 
 namespace {
@@ -56,6 +57,30 @@ TEST(tqGenericRevolvedTool, TheDiameterIsTwiceTheLargestXOfTheProfiles) {
     for (std::size_t i = 0; i < sizeof(cases) / sizeof(cases[0]); ++i) {
         EXPECT_EQ(Tool(cases[i].parts).GetDiameter(), cases[i].diameter) << "case " << i;
     }
+}
+
+// Each part sits on the heights of those below it; parts without a revolved profile add their height only.
+TEST(tqGenericRevolvedTool, StacksThePartsProfilesIntoTheToolProfile) {
+    using namespace profilecheck;
+    const tqtest::SolidPointer mesh(new tqMeshSolidDefinition<double>(tqtest::kMetric));
+    EXPECT_TRUE(Tool({}).GetProfile().IsEmpty());
+    EXPECT_TRUE(Tool({tqtest::Cutting(mesh)}).GetProfile().IsEmpty());
+    // The shank's bottom face lies inside the tool: the join runs to its end.
+    const tqGenericRevolvedTool tool = Tool(
+        {tqtest::Cutting(tqtest::Head(5, 20)), tqtest::Cutting(mesh), tqtest::NonCutting(tqtest::Shank(4, 6, 30))});
+    ExpectProfile(tool.GetProfile(), Point(0, 0), {L(5, 0), L(5, 20), L(4, 20), L(6, 25), L(6, 50)}, 0);
+    // A part that starts with an arc is joined at its start; a bulge counts to its height.
+    const tqGenericRevolvedTool bulging = Tool({tqtest::Cutting(Profile(0, 0).L(4, 0).A(4, 6, 4, 3).L(4, 10).Solid()),
+                                                tqtest::Cutting(Profile(0, 0).A(3, 3, 0, 3).L(3, 5).Solid())});
+    ExpectProfile(bulging.GetProfile(), Point(0, 0),
+                  {L(4, 0), A(4, 6, 4, 3, 180), L(4, 10), L(0, 10), A(3, 13, 0, 13, 90), L(3, 15)}, 1e-12);
+    // A change of units stacks the scaled parts.
+    tqGenericRevolvedTool inch = tool;
+    inch.SetUnits(tqtest::kInch);
+    const double f = 1 / 25.4;
+    ExpectProfile(inch.GetProfile(), Point(0, 0), {L(5 * f, 0), L(5 * f, 20 * f), L(4 * f, 20 * f), L(6 * f, 25 * f),
+                                                   L(6 * f, 50 * f)},
+                  1e-15);
 }
 
 TEST(tqGenericRevolvedTool, EqualityIsPartByPartInOrder) {

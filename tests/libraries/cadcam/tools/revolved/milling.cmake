@@ -9,4 +9,5 @@ tq_add_test(tqcadcam_tools_milling_test
   tqlolmill_test.cpp
   tqconvextipmill_test.cpp
   tqbarrellensmill_test.cpp
+  revolvedproperty_test.cpp
 )

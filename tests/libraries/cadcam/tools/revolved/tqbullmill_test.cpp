@@ -2,6 +2,7 @@
 #include "cadcam/tools/revolved/tqbullmill.h"
 
 #include "drillingtestutil.h"
+#include "profilecheck.h"
 
 namespace {
 
@@ -45,6 +46,17 @@ TEST(tqBullMill, RulesFireAtTheirBoundariesInOrder) {
     ExpectBuilds<P>({With([](P& p) { p.rc = 0; }), With([](P& p) { p.rc = 5; }), With([](P& p) { p.lf = 3, p.rc = 3; }),
                      With([](P& p) { p.lf = 5, p.ls = 5, p.rc = 5; })},
                     Make);
+}
+
+TEST(tqBullMill, RoundsTheCornerIntoATorusOrTheBall) {
+    using namespace profilecheck;
+    ExpectProfile(ProfileOf(*Make(P()).GetCuttingPart()), Point(0, 0), {L(3, 0), A(5, 2, 3, 2, 90), L(5, 20)}, 0);
+    // rc = R: the flat is gone and the corner is the exact quarter of the ball.
+    ExpectProfile(ProfileOf(*Make(With([](P& p) { p.rc = 5; })).GetCuttingPart()), Point(0, 0),
+                  {A(5, 5, 0, 5, 90), L(5, 20)}, 0);
+    // rc = Lf: the torus ends at the top of the flutes.
+    ExpectProfile(ProfileOf(*Make(With([](P& p) { p.rc = 3, p.lf = 3; })).GetCuttingPart()), Point(0, 0),
+                  {L(2, 0), A(5, 3, 2, 3, 90)}, 0);
 }
 
 }  // namespace

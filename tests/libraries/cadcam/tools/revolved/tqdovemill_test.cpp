@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "millingtestutil.h"
+#include "profilecheck.h"
 
 namespace {
 
@@ -63,6 +64,16 @@ TEST(tqDoveMill, EachRuleFiresAtItsBoundaryInOrder) {
                      With([](P& p) { p.crt = tqDoveMill::CRT_FULL, p.rc = 100; }),
                      With([](P& p) { p.crt = tqDoveMill::CRT_FULL, p.lf = 1; })},
                     Make);
+}
+
+// The full radius consumes the whole bottom: the profile starts with the arc at exactly (0, 0).
+TEST(tqDoveMill, AFullCornerStartsWithTheArcAtTheTip) {
+    const tqDoveMill mill = Make(With([](P& p) { p.crt = tqDoveMill::CRT_FULL; }));
+    const auto& first = profilecheck::ProfileOf(*mill.GetCuttingPart()).GetItem(0);
+    const auto arc = first.DynamicCast<cadcam::tq2dArc<double>>();
+    ASSERT_TRUE(arc.IsNotNull());
+    EXPECT_EQ(arc->GetStart(), profilecheck::Point(0, 0));
+    EXPECT_EQ(arc->GetCentre().x, 0);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "cadcam/tools/revolved/tqdrill.h"
 
 #include "drillingtestutil.h"
+#include "profilecheck.h"
 #include "tools/shape/profiletoolkit.h"
 
 namespace {
@@ -46,10 +47,21 @@ TEST(tqDrill, RulesFireAtTheirBoundariesInOrder) {
                     {With([](P& p) { p.angle = 0, p.lf = 1e-9; }), 2228, kAngle},
                     {With([](P& p) { p.d = kInf, p.angle = 0; }), 2105, "Invalid tool diameter"}},
                    Make);
-    ExpectBuilds<P>({With([](P& p) { p.angle = 180, p.lf = 1e-9, p.ls = 1; }),
+    ExpectBuilds<P>({With([](P& p) { p.angle = 180, p.lf = 1e-7, p.ls = 1; }),
                      With([](P& p) { p.angle = 1e-3, p.lf = 1e6, p.ls = 1e6; }),
                      With([](P& p) { p.angle = 90, p.lf = ConeHeight(5, 45); })},
                     Make);
+}
+
+TEST(tqDrill, BuildsThePointConeAndTheSide) {
+    using namespace profilecheck;
+    const auto cutting = [](const P& p) { return ProfileOf(*Make(p).GetCuttingPart()); };
+    ExpectProfile(cutting(With([](P& p) { p.angle = 90; })), Point(0, 0), {L(5, 5), L(5, 20)}, 0);
+    ExpectProfile(cutting(With([](P& p) { p.angle = 180; })), Point(0, 0), {L(5, 0), L(5, 20)}, 0);
+    // The point reaching the top of the flutes leaves no side.
+    ExpectProfile(cutting(With([](P& p) { p.angle = 90, p.lf = 5; })), Point(0, 0), {L(5, 5)}, 0);
+    const double h = ConeHeight(5, 59);
+    ExpectProfile(cutting(P()), Point(0, 0), {L(5, h), L(5, 20)}, 0);
 }
 
 }  // namespace

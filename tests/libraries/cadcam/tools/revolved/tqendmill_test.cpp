@@ -2,6 +2,7 @@
 #include "cadcam/tools/revolved/tqendmill.h"
 
 #include "drillingtestutil.h"
+#include "profilecheck.h"
 
 namespace {
 
@@ -65,12 +66,20 @@ TEST(tqEndMill, CommonRulesFireAtTheirBoundariesInOrder) {
                     {With([](P& p) { p.ls = 10, p.extender = true, p.lb = 50; }), 2107, kShoulder}},
                    Make);
     ExpectBuilds<P>(
-        {With([](P& p) { p.d = std::numeric_limits<double>::denorm_min(); }),
-         With([](P& p) { p.lf = std::numeric_limits<double>::denorm_min(); }), With([](P& p) { p.ls = 20; }),
+        {With([](P& p) { p.d = 1e-6; }), With([](P& p) { p.lf = 1e-6; }), With([](P& p) { p.ls = 20; }),
          With([](P& p) { p.extender = true, p.lb = 20; }), With([](P& p) { p.extender = true, p.lb = 40; }),
          // The extender may be narrower than the tool.
          With([](P& p) { p.extender = true, p.ds = 1; })},
         Make);
+}
+
+// Sizes below the profile tolerance pass the parameter rules but leave no profile the cutting part accepts.
+TEST(tqEndMill, ToolsBelowTheProfileToleranceFailTheCuttingPartRules) {
+    EXPECT_THROW_CODE(Make(With([](P& p) { p.d = std::numeric_limits<double>::denorm_min(); })),
+                      cadcam::tqcadcamException, 2146, "Points must be in trigonometric order in tool part profile");
+    EXPECT_THROW_CODE(Make(With([](P& p) { p.lf = 1e-10; })), cadcam::tqcadcamException, 2320,
+                      "Last segment of tool part profile should not be parallel with Ox or at least not going towards "
+                      "increasing X values");
 }
 
 TEST(tqEndMill, ExtenderRulesFireAtTheirBoundariesInOrder) {
@@ -105,6 +114,43 @@ TEST(tqEndMill, ScalesTheCommonLengthsAndTheExtender) {
         EXPECT_EQ(e.GetDiameter(), (given ? 12 : 10) * (1 / 25.4));
         EXPECT_EQ(e.GetLength(), (given ? 30 : 20) * (1 / 25.4));
     }
+}
+
+// The flutes, the shank with its part moved down by Lf, and the tool's outline that joins them.
+TEST(tqEndMill, BuildsTheCuttingPartTheShankAndTheToolProfile) {
+    using namespace profilecheck;
+    const tqEndMill mill = Make(P());
+    ExpectProfile(ProfileOf(*mill.GetCuttingPart()), Point(0, 0), {L(5, 0), L(5, 20)}, 0);
+    ExpectProfile(mill.GetNonCuttingToolProfile(), Point(0, 20), {L(5, 20), L(5, 40)}, 0);
+    ExpectProfile(ProfileOf(*mill.GetNonCuttingPart()), Point(0, 0), {L(5, 0), L(5, 20)}, 0);
+    ExpectProfile(mill.GetProfile(), Point(0, 0), {L(5, 0), L(5, 20), L(5, 40)}, 0);
+
+    // A given extender: a cone from the top of the flutes to its diameter at its base length, then a cylinder.
+    const tqEndMill given = Make(With([](P& p) { p.extender = true; }));
+    ExpectProfile(given.GetNonCuttingToolProfile(), Point(0, 20), {L(5, 20), L(6, 30), L(6, 40)}, 0);
+    ExpectProfile(ProfileOf(*given.GetNonCuttingPart()), Point(0, 0), {L(5, 0), L(6, 10), L(6, 20)}, 0);
+    ExpectProfile(given.GetProfile(), Point(0, 0), {L(5, 0), L(5, 20), L(6, 30), L(6, 40)}, 0);
+    const tqEndMill atShoulder = Make(With([](P& p) { p.extender = true, p.lb = 40; }));
+    ExpectProfile(atShoulder.GetNonCuttingToolProfile(), Point(0, 20), {L(5, 20), L(6, 40)}, 0);
+
+    // No shank: the non-cutting part is there with an empty profile.
+    const tqEndMill flutesOnly = Make(With([](P& p) { p.ls = 20; }));
+    EXPECT_TRUE(ProfileOf(*flutesOnly.GetNonCuttingPart()).IsEmpty());
+    EXPECT_TRUE(flutesOnly.GetNonCuttingToolProfile().IsEmpty());
+    ExpectProfile(flutesOnly.GetProfile(), Point(0, 0), {L(5, 0), L(5, 20)}, 0);
+}
+
+// A change of units builds the profiles again from the scaled numbers.
+TEST(tqEndMill, AChangeOfUnitsRebuildsTheProfiles) {
+    tqEndMill mill = Make(With([](P& p) { p.extender = true; }));
+    mill.SetUnits(kInch);
+    const double f = 1 / 25.4;
+    const tqEndMill inch(kInch, {}, {}, 10 * f, 20 * f, 40 * f, Extender(kInch, 12 * f, 30 * f));
+    EXPECT_EQ(mill, inch);
+    EXPECT_TRUE(mill.GetCuttingPart()->IsEqual(*inch.GetCuttingPart()));
+    EXPECT_EQ(mill.GetCuttingPart()->GetUnits(), kInch);
+    EXPECT_TRUE(mill.GetNonCuttingPart()->IsEqual(*inch.GetNonCuttingPart()));
+    EXPECT_EQ(mill.GetProfile(), inch.GetProfile());
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "millingtestutil.h"
+#include "profilecheck.h"
 
 namespace {
 
@@ -55,6 +56,22 @@ TEST(tqSlotMill, EachRuleFiresAtItsBoundaryInOrder) {
                      With([](P& p) { p.crt = tqSlotMill::CRT_NONE, p.rc = 10; }),
                      With([](P& p) { p.crt = tqSlotMill::CRT_FULL, p.rc = 50; })},
                     Make);
+}
+
+TEST(tqSlotMill, RoundsBothCornersOfTheDisc) {
+    using namespace profilecheck;
+    ExpectProfile(ProfileOf(*Make(P()).GetCuttingPart()), Point(0, 0),
+                  {L(9, 0), A(10, 1, 9, 1, 90), L(10, 3), A(9, 4, 9, 3, 90)}, 0);
+    // The full radius of a disc thinner than D meets in the middle of the side and leaves the top flat.
+    ExpectProfile(ProfileOf(*Make(With([](P& p) { p.crt = tqSlotMill::CRT_FULL; })).GetCuttingPart()), Point(0, 0),
+                  {L(8, 0), A(10, 2, 8, 2, 90), A(8, 4, 8, 2, 90)}, 0);
+    // Flutes longer than D: the full radius is R and the profile ends on the axis.
+    const tqSlotMill tall = Make(With([](P& p) { p.crt = tqSlotMill::CRT_FULL, p.lf = 30, p.ls = 40; }));
+    ExpectProfile(ProfileOf(*tall.GetCuttingPart()), Point(0, 0),
+                  {A(10, 10, 0, 10, 90), L(10, 20), A(0, 30, 0, 20, 90)}, 0);
+    // The shank starts at the axis, at the top of the flutes.
+    ExpectProfile(tall.GetProfile(), Point(0, 0),
+                  {A(10, 10, 0, 10, 90), L(10, 20), A(0, 30, 0, 20, 90), L(10, 30), L(10, 40)}, 0);
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ TEST(tqSpotDrill, RulesFireAtTheirBoundariesInOrder) {
                     {With([](P& p) { p.angle = 0.5, p.lf = 1e-9; }), 2113, kAngle},
                     {With([](P& p) { p.d = kInf, p.angle = 0; }), 2105, "Invalid tool diameter"}},
                    Make);
-    ExpectBuilds<P>({With([](P& p) { p.angle = 180, p.lf = 1e-9, p.ls = 1; }),
+    ExpectBuilds<P>({With([](P& p) { p.angle = 180, p.lf = 1e-7, p.ls = 1; }),
                      With([](P& p) { p.angle = 1, p.lf = 1e3, p.ls = 1e3; }),
                      With([](P& p) { p.angle = 90, p.lf = ConeHeight(5, 45); })},
                     Make);

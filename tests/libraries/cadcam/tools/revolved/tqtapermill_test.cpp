@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "millingtestutil.h"
+#include "profilecheck.h"
 
 namespace {
 
@@ -78,6 +79,16 @@ TEST(tqTaperMill, EachRuleFiresAtItsBoundaryInOrder) {
                      With([](P& p) { p.crt = tqTaperMill::CRT_FULL, p.angle = 30, p.lf = 1, p.ls = 4.4; }),
                      With([](P& p) { p.rc = 4, p.angle = 30, p.lf = 1, p.ls = 2 * (1 + 1e-12); })},
                     Make);
+}
+
+// The full radius consumes the whole bottom: the profile starts with the arc at exactly (0, 0).
+TEST(tqTaperMill, AFullCornerStartsWithTheArcAtTheTip) {
+    const tqTaperMill mill = Make(With([](P& p) { p.crt = tqTaperMill::CRT_FULL; }));
+    const auto& first = profilecheck::ProfileOf(*mill.GetCuttingPart()).GetItem(0);
+    const auto arc = first.DynamicCast<cadcam::tq2dArc<double>>();
+    ASSERT_TRUE(arc.IsNotNull());
+    EXPECT_EQ(arc->GetStart(), profilecheck::Point(0, 0));
+    EXPECT_EQ(arc->GetCentre().x, 0);
 }
 
 }  // namespace

@@ -141,6 +141,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     /// The barrel that the definitions give, found before the common checks need its diameter and flute length.
     struct Derivation;
 

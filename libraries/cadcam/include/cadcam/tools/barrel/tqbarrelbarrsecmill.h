@@ -44,6 +44,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqBarrelBarrSecMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                         double diameter, double fluteLength, double shoulderLength, double shaftDiameter,
                         double upperBlendRadius, double profileRadius, double lowerBlendRadius, double centerHeight,

@@ -39,6 +39,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqBarrelDProfMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                       double diameter, double fluteLength, double shoulderLength, double upperProfileRadius,
                       double blendRadius, double lowerProfileRadius, const tqShoulderDefinitionExtender* extender);

@@ -47,6 +47,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqBarrelTaperMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                       double diameter, double fluteLength, double shoulderLength, double upperDiameter,
                       double taperAngle, double lowerRadius, double profileRadius, double upperRadius,

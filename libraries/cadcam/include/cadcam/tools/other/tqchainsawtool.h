@@ -5,6 +5,9 @@
 
 namespace cadcam {
 
+template <class T>
+class tqCuttingPartDefinition;
+
 /// A chain saw blade in the turning plane, tip at Z = 0: straight (a rectangle of BladeWidth by BladeLength) or
 /// simple (straight up to StraightBladeLength, then narrowing to BladeUpperWidth at BladeLength). The two tip
 /// corners are rounded with the corner radius, or with half the blade width for a full radius.
@@ -14,6 +17,7 @@ public:
     enum SawCornerRadiusType : int { SCRT_CORNER = 0, SCRT_FULL = 1 };
     /// The outline of the blade.
     enum ChainSawType : int { CST_STRAIGHT = 0, CST_SIMPLE = 1 };
+    using CuttingPartPointer = misc::tqAutoPointer<tqCuttingPartDefinition<double>>;
 
     /// Throws tqcadcamException for the first broken rule: 2302 unless bladeThickness > 0, 2109 for an unknown
     /// corner radius type, 2141 for an unknown chain saw type, 2303 unless bladeWidth > 0, 2304 unless
@@ -40,6 +44,10 @@ public:
     /// Simple blades: the width at the blade's far end.
     double GetBladeUpperWidth() const { return m_bladeUpperWidth; }
 
+    /// The blade as a cutting part: its rounded outline in the turning plane, tip at Z = 0, extruded over y
+    /// from -BladeThickness/2 to BladeThickness/2. Never null once the tool is built.
+    const CuttingPartPointer& GetCuttingPart() const { return m_cuttingPart; }
+
     void AcceptVisitor(tqToolVisitor& visitor) const override;
 
     /// Exact: the same units, holder, arbor and parameters.
@@ -50,6 +58,9 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Makes the cutting part from the parameters, in the given units.
+    void BuildCuttingPart(measures::tqUnitsFactory::Units units);
+
     double m_cornerRadius;
     SawCornerRadiusType m_cornerRadiusType;
     ChainSawType m_chainSawType;
@@ -57,6 +68,7 @@ private:
     double m_bladeLength;
     double m_straightBladeLength;
     double m_bladeUpperWidth;
+    CuttingPartPointer m_cuttingPart;
 };
 
 }  // namespace cadcam

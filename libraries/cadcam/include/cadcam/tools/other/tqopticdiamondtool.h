@@ -5,11 +5,16 @@
 
 namespace cadcam {
 
+template <class T>
+class tqCuttingPartDefinition;
+
 /// A diamond tool for optics: a flat blade in the turning plane, Thickness thick, whose nose of the given radius
 /// sits between two flanks (RT_FULL) or between one flank and the axis (RT_LEFT, RT_RIGHT). The clearance and rake
 /// angles are carried without a shape.
 class TQ_EXPORT tqOpticDiamondTool : public tqTool {
 public:
+    using CuttingPartPointer = misc::tqAutoPointer<tqCuttingPartDefinition<double>>;
+
     /// The form of the clearance face.
     enum ClearanceType : int { CT_CONICAL = 0, CT_CYLINDRICAL = 1 };
     /// Where the nose radius lies: between two flanks, or on the left or right side of the axis.
@@ -41,6 +46,10 @@ public:
     double GetWidth() const { return m_width; }
     double GetThickness() const { return m_thickness; }
 
+    /// The blade as a cutting part: its outline in the turning plane with the nose rounded, the nose's lowest
+    /// point at the origin, extruded over y from -Thickness to 0. Never null once the tool is built.
+    const CuttingPartPointer& GetCuttingPart() const { return m_cuttingPart; }
+
     void AcceptBranchVisitor(tqToolBranchVisitor& visitor) const override;
     void AcceptVisitor(tqToolVisitor& visitor) const override;
 
@@ -52,6 +61,9 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Makes the cutting part from the parameters, in the given units.
+    void BuildCuttingPart(measures::tqUnitsFactory::Units units);
+
     double m_radius;
     double m_includedAngle;
     ClearanceType m_clearanceType;
@@ -61,6 +73,7 @@ private:
     double m_length;
     double m_width;
     double m_thickness;
+    CuttingPartPointer m_cuttingPart;
 };
 
 }  // namespace cadcam

@@ -5,10 +5,15 @@
 
 namespace cadcam {
 
+template <class T>
+class tqCuttingPartDefinition;
+
 /// A speed shape tool, carried as an envelope of its sizes: a block of Width by Length in the turning plane,
 /// Depth thick. The other sizes and angles are carried without a shape.
 class TQ_EXPORT tqSpeedShapeTool : public tqTool {
 public:
+    using CuttingPartPointer = misc::tqAutoPointer<tqCuttingPartDefinition<double>>;
+
     /// Takes any values: a speed shape tool has no rules.
     tqSpeedShapeTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                      double width, double length, double cornerRadius, double conicLength, double conicAngle,
@@ -28,6 +33,11 @@ public:
     double GetArcRadius() const { return m_arcRadius; }
     double GetDepth() const { return m_depth; }
 
+    /// The envelope as a cutting part: the rectangle [-Width/2, Width/2] x [0, Length] in the turning plane
+    /// extruded over y from -Depth to 0; a solid without contour when a size is not > 0. Never null once the
+    /// tool is built.
+    const CuttingPartPointer& GetCuttingPart() const { return m_cuttingPart; }
+
     void AcceptBranchVisitor(tqToolBranchVisitor& visitor) const override;
     void AcceptVisitor(tqToolVisitor& visitor) const override;
 
@@ -39,6 +49,9 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Makes the cutting part from the parameters, in the given units.
+    void BuildCuttingPart(measures::tqUnitsFactory::Units units);
+
     double m_width;
     double m_length;
     double m_cornerRadius;
@@ -47,6 +60,7 @@ private:
     double m_rampAngle;
     double m_arcRadius;
     double m_depth;
+    CuttingPartPointer m_cuttingPart;
 };
 
 }  // namespace cadcam

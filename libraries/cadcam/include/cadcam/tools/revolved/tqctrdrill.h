@@ -43,6 +43,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqCtrDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                double diameter, double fluteLength, double shoulderLength, double tipAngle, double shoulderAngle,
                double coreDiameter, double coreHeight, const tqShoulderDefinitionExtender* extender);

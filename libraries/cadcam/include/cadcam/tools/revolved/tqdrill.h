@@ -31,6 +31,8 @@ public:
     bool operator!=(const tqDrill& other) const { return !(*this == other); }
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqDrill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
             double diameter, double fluteLength, double shoulderLength, double tipAngle,
             const tqShoulderDefinitionExtender* extender);

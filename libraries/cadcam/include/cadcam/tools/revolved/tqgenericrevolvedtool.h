@@ -1,6 +1,7 @@
 // tqGenericRevolvedTool: a revolved tool given by an ordered list of tool parts.
 #pragma once
 
+#include "cadcam/geometry/tq2dcontour.h"
 #include "cadcam/tools/parts/tqtoolpartscontainer.h"
 #include "cadcam/tools/tqrevolvedtool.h"
 
@@ -21,6 +22,10 @@ public:
 
     /// Twice the largest X over the revolved profiles of the parts, arc extremes included; 0 when there is none.
     double GetDiameter() const override;
+    /// The parts' profiles stacked from the tip up, each lifted by the heights of the parts below it and joined
+    /// to the previous one by a line (to the end of its bottom face, when it starts with a flat line); parts
+    /// without a revolved profile add their height only.
+    const tq2dContour<double>& GetProfile() const override { return m_profile; }
     /// The parts in their order.
     const tqToolPartsContainer<double>& GetParts() const { return m_parts; }
 
@@ -36,6 +41,7 @@ protected:
 
 private:
     tqToolPartsContainer<double> m_parts;
+    tq2dContour<double> m_profile;
 };
 
 }  // namespace cadcam

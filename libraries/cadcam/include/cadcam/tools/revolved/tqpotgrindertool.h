@@ -27,6 +27,8 @@ public:
     bool operator!=(const tqPotGrinderTool& other) const { return !(*this == other); }
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqPotGrinderTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                      double diameter, double fluteLength, double shoulderLength,
                      const tqShoulderDefinitionExtender* extender);

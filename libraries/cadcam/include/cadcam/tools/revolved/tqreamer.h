@@ -32,6 +32,8 @@ public:
     bool operator!=(const tqReamer& other) const { return !(*this == other); }
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqReamer(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
              double diameter, double fluteLength, double shoulderLength, double factor,
              const tqShoulderDefinitionExtender* extender);

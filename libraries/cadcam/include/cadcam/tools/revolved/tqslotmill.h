@@ -37,6 +37,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqSlotMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                double diameter, double fluteLength, double shoulderLength, double cornerRadius,
                CornerRadiusType cornerRadiusType, const tqShoulderDefinitionExtender* extender);

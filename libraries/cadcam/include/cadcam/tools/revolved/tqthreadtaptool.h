@@ -48,6 +48,8 @@ protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
 
 private:
+    /// Builds the head again from the parameters, after a change of units.
+    void RebuildProfiles() override;
     tqThreadTapTool(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                     double diameter, double fluteLength, double shoulderLength, ThreadType threadType, double pitch,
                     int tpi, ThreadDirection threadDirection, const tqShoulderDefinitionExtender* extender);

@@ -28,6 +28,7 @@ public:
 
 protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
+    tq2dContour<double> MakeInsertContour() const override;
 
 private:
     tqContourTurningSolidDefinition<double> m_contourSolid;

@@ -46,6 +46,7 @@ public:
 
 protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
+    tq2dContour<double> MakeInsertContour() const override;
 
 private:
     GroovingTurningToolType m_type;

@@ -29,6 +29,7 @@ public:
 
 protected:
     void Scale(measures::tqUnitsFactory::Units units, const double& factor) override;
+    tq2dContour<double> MakeInsertContour() const override;
 
 private:
     double m_cornerRadius;
