@@ -6,19 +6,6 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
-namespace {
-
-/// The back-tapered bar: the bottom and the side narrowing upward by the taper angle, the bottom corner rounded.
-shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
-                          double taperAngle) {
-    const double radius = diameter / 2;
-    return shape::MakeRoundedCorner({shape::Point(0, 0), shape::Point(radius, 0),
-                                     shape::Point(radius - fluteLength * shape::TanDegrees(taperAngle), fluteLength)},
-                                    1, cornerRadiusType, cornerRadius);
-}
-
-}  // namespace
-
 tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                      double diameter, double fluteLength, double shoulderLength, double cornerRadius,
                      CornerRadiusType cornerRadiusType, double taperAngle)
@@ -44,7 +31,8 @@ tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& 
     if (!(cornerRadius >= 0)) throw tqcadcamException(2163);
     if (!(taperAngle >= 0.1 && taperAngle <= 89)) throw tqcadcamException(2122);
 
-    const shape::RoundedCorner head = Head(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle);
+    const shape::RoundedCorner head =
+        shape::UndercutHead(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle);
     // The side must stay off the axis and the fillet must fit the bottom; then it must fit the side.
     const shape::CornerFillet& corner = head.fillet;
     const double t = corner.fillet.t;
@@ -56,7 +44,8 @@ tqBoreBar::tqBoreBar(measures::tqUnitsFactory::Units units, const ArborPointer& 
 tqBoreBar::~tqBoreBar() = default;
 
 void tqBoreBar::RebuildProfiles() {
-    BuildProfiles(Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle).Path());
+    BuildProfiles(
+        shape::UndercutHead(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle).Path());
 }
 
 void tqBoreBar::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }

@@ -8,21 +8,6 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
-namespace {
-
-/// The face mill's head: the bottom at the tip diameter, the chamfer cone out to the outside diameter and the
-/// side, the corner at (R, 0) rounded.
-shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
-                          double taperAngle, double outsideDiameter) {
-    const double radius = diameter / 2;
-    const double outsideRadius = outsideDiameter / 2;
-    const double leadHeight = (outsideRadius - radius) / shape::TanDegrees(taperAngle);
-    return shape::MakeRoundedCorner(shape::FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength), 1,
-                                    cornerRadiusType, cornerRadius);
-}
-
-}  // namespace
-
 tqChamferMill::tqChamferMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor,
                              const HolderPointer& holder, double diameter, double fluteLength, double shoulderLength,
                              double cornerRadius, CornerRadiusType cornerRadiusType, double taperAngle,
@@ -64,7 +49,7 @@ tqChamferMill::tqChamferMill(measures::tqUnitsFactory::Units units, const ArborP
     // A shaft must stand above the chamfer.
     if (!(shoulderLength > fluteLength)) throw tqcadcamException(3423);
     const shape::RoundedCorner head =
-        Head(diameter, fluteLength, cornerRadius, cornerRadiusType, taperAngle, outsideDiameter);
+        shape::FaceHead(diameter, fluteLength, cornerRadius, cornerRadiusType, outsideDiameter, taperAngle);
     if (cornerRadiusType == CRT_CORNER && !(cornerRadius < head.fillet.fullRadius)) throw tqcadcamException(2152);
     BuildProfiles(head.Path());
 }
@@ -72,9 +57,9 @@ tqChamferMill::tqChamferMill(measures::tqUnitsFactory::Units units, const ArborP
 tqChamferMill::~tqChamferMill() = default;
 
 void tqChamferMill::RebuildProfiles() {
-    BuildProfiles(
-        Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_taperAngle, m_outsideDiameter)
-            .Path());
+    BuildProfiles(shape::FaceHead(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType,
+                                  m_outsideDiameter, m_taperAngle)
+                      .Path());
 }
 
 void tqChamferMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }

@@ -8,21 +8,6 @@
 #include "tools/shape/headpath.h"
 
 namespace cadcam {
-namespace {
-
-/// The bottom, the lead face out to the outside diameter and the side, the corner at (R, 0) rounded with the
-/// segment that leaves it.
-shape::RoundedCorner Head(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
-                          double outsideDiameter, double taperAngle) {
-    const double radius = diameter / 2;
-    const double outsideRadius = outsideDiameter / 2;
-    const double leadHeight = (outsideRadius - radius) / shape::TanDegrees(taperAngle);
-    return shape::MakeRoundedCorner(shape::FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength), 1,
-                                    cornerRadiusType, cornerRadius);
-}
-
-}  // namespace
-
 tqFaceMill::tqFaceMill(measures::tqUnitsFactory::Units units, const ArborPointer& arbor, const HolderPointer& holder,
                        double diameter, double fluteLength, double shoulderLength, double cornerRadius,
                        CornerRadiusType cornerRadiusType, double outsideDiameter, double taperAngle)
@@ -58,7 +43,7 @@ tqFaceMill::tqFaceMill(measures::tqUnitsFactory::Units units, const ArborPointer
     // the segment that leaves it.
     if (!(outsideDiameter >= diameter && leadHeight <= fluteLength)) throw tqcadcamException(2123);
     const shape::RoundedCorner head =
-        Head(diameter, fluteLength, cornerRadius, cornerRadiusType, outsideDiameter, taperAngle);
+        shape::FaceHead(diameter, fluteLength, cornerRadius, cornerRadiusType, outsideDiameter, taperAngle);
     const shape::CornerFillet& corner = head.fillet;
     if (!(corner.fillet.t <= std::min(corner.la, corner.lb))) throw tqcadcamException(2123);
     BuildProfiles(head.Path());
@@ -67,9 +52,9 @@ tqFaceMill::tqFaceMill(measures::tqUnitsFactory::Units units, const ArborPointer
 tqFaceMill::~tqFaceMill() = default;
 
 void tqFaceMill::RebuildProfiles() {
-    BuildProfiles(
-        Head(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType, m_outsideDiameter, m_taperAngle)
-            .Path());
+    BuildProfiles(shape::FaceHead(GetDiameter(), GetFluteLength(), m_cornerRadius, m_cornerRadiusType,
+                                  m_outsideDiameter, m_taperAngle)
+                      .Path());
 }
 
 void tqFaceMill::AcceptVisitor(tqToolVisitor& visitor) const { visitor.Visit(*this); }

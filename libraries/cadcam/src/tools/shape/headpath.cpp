@@ -215,5 +215,22 @@ HeadPath PathOf(const tq2dContour<double>& contour, double dy) {
     return path;
 }
 
+RoundedCorner FaceHead(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                       double outsideDiameter, double taperAngle) {
+    const double radius = diameter / 2;
+    const double outsideRadius = outsideDiameter / 2;
+    const double leadHeight = (outsideRadius - radius) / TanDegrees(taperAngle);
+    return MakeRoundedCorner(FaceHeadPoints(radius, outsideRadius, leadHeight, fluteLength), 1, cornerRadiusType,
+                             cornerRadius);
+}
+
+RoundedCorner UndercutHead(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                           double taperAngle) {
+    const double radius = diameter / 2;
+    return MakeRoundedCorner(
+        {Point(0, 0), Point(radius, 0), Point(radius - fluteLength * TanDegrees(taperAngle), fluteLength)}, 1,
+        cornerRadiusType, cornerRadius);
+}
+
 }  // namespace shape
 }  // namespace cadcam

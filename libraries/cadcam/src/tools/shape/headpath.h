@@ -65,6 +65,16 @@ HeadPath CylinderHead(double radius, double height);
 /// that Drop would remove (shorter than ε) is left out, the side then leaving (R,0) towards (OD/2,Lf).
 std::vector<Point> FaceHeadPoints(double radius, double outsideRadius, double leadHeight, double fluteLength);
 
+/// The face and chamfer mill head: the bottom at the tool radius, the lead face at taperAngle from the axis out to
+/// the outside radius and the side, the corner at (R, 0) rounded with the segment that leaves it.
+RoundedCorner FaceHead(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                       double outsideDiameter, double taperAngle);
+
+/// The dovetail and bore bar head: the bottom and the side narrowing upward by taperAngle, the bottom corner
+/// rounded.
+RoundedCorner UndercutHead(double diameter, double fluteLength, double cornerRadius, int cornerRadiusType,
+                           double taperAngle);
+
 /// The lollipop head: the ball of the tool radius from the tip to its equator, then on up to where it meets
 /// the neck of radius neckRadius (0 < neckRadius < radius).
 HeadPath LollipopHead(double radius, double neckRadius);
