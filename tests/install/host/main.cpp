@@ -57,6 +57,47 @@ int main() {
         failures += Check(e.GetCode() == 2117, "tqcadcamException code");
     }
 
+    // Tool geometry: default mount, exact heights, the generic form and a closed mesh.
+    const cadcam::tqEndMill mounted(measures::tqUnitsFactory::Metric,
+                                    cadcam::tqDefaultToolParts::MillingArbor(measures::tqUnitsFactory::Metric),
+                                    cadcam::tqDefaultToolParts::MillingHolder(measures::tqUnitsFactory::Metric), 10, 20,
+                                    30);
+    failures += Check(*mounted.PartHeightOf(3) == 30, "PartHeightOf");
+    failures += Check(cadcam::tqToolBoundingBox::HeightOf(mounted, 8) == 70, "tqToolBoundingBox");
+    failures += Check(cadcam::tqToolToGenericToolConverter::Convert(mounted)->GetCuttingGroup().size() == 1,
+                      "tqToolToGenericToolConverter");
+    failures += Check(cadcam::tqSolidDefinitionMeshCreator::Create(*mounted.GetCuttingPart()->GetSolid(), 0.0, 0.01)
+                              ->GetTriangleCount() > 0,
+                      "tqSolidDefinitionMeshCreator");
+
+    // A stock on a fixture, joined in the rig's table and validated.
+    misc::tqAutoPointer<tqWorkRig::WorkRig> machine(new tqWorkRig::WorkRig(measures::tqUnitsFactory::Metric));
+    misc::tqAutoPointer<tqWorkRig::StockAdapter> vise(new tqWorkRig::StockAdapter(u"vise"));
+    misc::tqAutoPointer<tqWorkRig::DockingFramePlug> base(new tqWorkRig::DockingFramePlug(u"base"));
+    misc::tqAutoPointer<tqWorkRig::DockingFrameSocket> jaws(new tqWorkRig::DockingFrameSocket(u"jaws"));
+    vise->Add(base);
+    vise->Add(jaws);
+    misc::tqAutoPointer<tqWorkRig::Stock> blank(new tqWorkRig::Stock(u"blank"));
+    misc::tqAutoPointer<tqWorkRig::DockingFramePlug> bottom(new tqWorkRig::DockingFramePlug(u"bottom"));
+    blank->Add(bottom);
+    misc::tqAutoPointer<tqWorkRig::MountStation> table(new tqWorkRig::StockMountStation(u"TBL", u"table"));
+    const misc::tqAutoPointer<tqWorkRig::ConnectorTree>& tree =
+        machine->GetConnectorTable()->CreateNewTree(table, base);
+    tree->AddConnection(bottom, jaws);
+    machine->AddStockAdapter(vise);
+    machine->AddStock(blank);
+    machine->AddDockingFrame(base);
+    machine->AddDockingFrame(jaws);
+    const auto adapters = tree->GetAllStockAdapters(blank);
+    failures += Check(adapters->size() == 1 && (*adapters)[0].Get() == vise.Get(), "GetAllStockAdapters");
+    try {
+        tqWorkRig::Validator(machine).ValidateWorkRig();
+        failures += Check(false, "Validator refuses an unregistered frame");
+    } catch (const misc::tqException& e) {
+        failures += Check(e.GetMessage() == misc::tqstring(u"Docking frame bottom not found in WorkRig!"),
+                          "Validator text");
+    }
+
     const cadcam::tq2dArc<double> arc({1, 0}, {0, 1}, {0, 0}, cadcam::tqArcDirection::Counterclockwise);
     failures += Check(arc.GetSweep() == 90.0, "tq2dArc sweep");
     failures += Check(cadcam::tqMatrix<double, 4, 4>::Identity() == cadcam::tqMatrix<double, 4, 4>(), "tqMatrix");
