@@ -3,14 +3,14 @@
 
 #include <vector>
 
-#include "connection/connectiontestutil.h"
+#include "model/modeltestutil.h"
 #include "support/tqtest.h"
 #include "tqWorkRig/connection/plugnode.h"
 #include "tqWorkRig/model/stockmountstation.h"
 #include "tqWorkRig/model/toolmountstation.h"
 
 using namespace tqWorkRig;
-using namespace tqtest;
+using namespace modeltest;
 using StationPtr = tqAutoPointer<MountStation>;
 
 TEST(ConnectorTable, OrdersByTypeThenNameAndKeepsEquivalentKeysInInsertionOrder) {

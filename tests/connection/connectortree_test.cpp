@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "connection/connectiontestutil.h"
+#include "model/modeltestutil.h"
 #include "connection/treelinks.h"
 #include "support/tqtest.h"
 #include "tqWorkRig/connection/plugnode.h"
@@ -15,7 +15,7 @@
 #include "tqWorkRig/model/tooladapter.h"
 
 using namespace tqWorkRig;
-using namespace tqtest;
+using namespace modeltest;
 
 namespace {
 
@@ -65,7 +65,7 @@ TEST(ConnectorTree, ChecksComeInOrderAndFailuresChangeNothing) {
 
     Tool tool(u"tool");
     tool.SetPlug(NewPlug());
-    Foreign foreign;
+    ForeignObject foreign;
     const SocketPtr foreignSocket = NewSocket();
     Adopt(foreign, foreignSocket);
     const std::string failure =

@@ -3,13 +3,13 @@
 
 #include <limits>
 
-#include "connection/connectiontestutil.h"
+#include "model/modeltestutil.h"
 #include "support/tqtest.h"
 #include "tqWorkRig/connection/socketnode.h"
 #include "tqWorkRig/connection/treehelper.h"
 
 using namespace tqWorkRig;
-using namespace tqtest;
+using namespace modeltest;
 
 TEST(PlugNode, AddChildChecksSocketThenPlugAndLinksBothWays) {
     auto root = TreeHelper::CreateNewPlugNode(NewPlug());
@@ -31,15 +31,15 @@ TEST(PlugNode, AddChildChecksSocketThenPlugAndLinksBothWays) {
 }
 
 TEST(PlugNode, ComparesStructureAndEndsOnTheWayBackUp) {
-    const PlugPtr r = NewPlug("r"), p1 = NewPlug("p1"), p2 = NewPlug("p2");
-    const SocketPtr s1 = NewSocket("s1"), s2 = NewSocket("s2");
+    const PlugPtr r = NewPlug(u"r"), p1 = NewPlug(u"p1"), p2 = NewPlug(u"p2");
+    const SocketPtr s1 = NewSocket(u"s1"), s2 = NewSocket(u"s2");
     auto fork = [&](const PlugPtr& root, bool swapped) {
         auto node = TreeHelper::CreateNewPlugNode(root);
         node->AddChild(swapped ? s2 : s1, swapped ? p2 : p1);
         node->AddChild(swapped ? s1 : s2, swapped ? p1 : p2);
         return node;
     };
-    auto a = fork(r, false), b = fork(r, false), swapped = fork(r, true), otherRoot = fork(NewPlug("x"), false);
+    auto a = fork(r, false), b = fork(r, false), swapped = fork(r, true), otherRoot = fork(NewPlug(u"x"), false);
 
     EXPECT_TRUE(*a == *b);  // every child refers back to its parent: the set flags end the walk
     EXPECT_FALSE(*a == *swapped);

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "connection/connectiontestutil.h"
+#include "model/modeltestutil.h"
 #include "support/tqtest.h"
 #include "tqWorkRig/connection/connectortree.h"
 #include "tqWorkRig/connection/plugnode.h"
@@ -13,7 +13,7 @@
 #include "tqWorkRig/model/tool.h"
 
 using namespace tqWorkRig;
-using namespace tqtest;
+using namespace modeltest;
 
 TEST(ToolAssembly, SetPlugKeepsThePlugItHasForNullAndForItself) {
     auto assembly = Make<ToolAssembly>(u"a");

@@ -1,7 +1,7 @@
 // TreeHelper: node construction texts, and what each kind of object answers for its plugs and sockets.
 #include "tqWorkRig/connection/treehelper.h"
 
-#include "connection/connectiontestutil.h"
+#include "model/modeltestutil.h"
 #include "support/tqtest.h"
 #include "tqWorkRig/connection/toolassembly.h"
 #include "tqWorkRig/model/holder.h"
@@ -10,7 +10,7 @@
 #include "tqWorkRig/model/tooladapter.h"
 
 using namespace tqWorkRig;
-using namespace tqtest;
+using namespace modeltest;
 
 TEST(TreeHelper, NullFramesAreRefusedWithTheirOwnTexts) {
     EXPECT_THROW_MSG(TreeHelper::CreateNewPlugNode(PlugPtr()), misc::tqException,
@@ -25,7 +25,7 @@ TEST(TreeHelper, EachKindAnswersItsFramesOrItsText) {
     ToolAssembly assembly(u"ta");
     ToolAdapter adapter(u"ad");
     Stock stock(u"st");
-    Foreign foreign;
+    ForeignObject foreign;
     tool.SetPlug(NewPlug());
     holder.SetSocket(NewSocket());  // its plug stays unset and is left out
     adapter.Add(NewPlug());

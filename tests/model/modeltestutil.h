@@ -1,4 +1,5 @@
-// Builders shared by the model tests: objects behind pointers, a stock that reports its death, foreign classes.
+// Builders shared by the model and connection tests: objects behind pointers, a stock that reports its death,
+// foreign classes.
 #pragma once
 
 #include <utility>
@@ -41,6 +42,12 @@ public:
         visitor.Visit(static_cast<const DockableObject&>(*this));
     }
 };
+
+/// Makes `object` the frame's parent as the model does: a link with a control block of its own.
+template <class Frame>
+void Adopt(tqWorkRig::DockableObject& object, const Frame& frame) {
+    frame->SetParent(tqAutoPointer<tqWorkRig::DockableObject>(&object));
+}
 
 /// A frame class outside the closed set.
 class ForeignFrame : public tqWorkRig::DockingFrame {

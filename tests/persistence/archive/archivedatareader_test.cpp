@@ -60,11 +60,7 @@ TEST(ArchiveDataReader, FileThatIsNotAnArchiveFailsAtUnzipping) {
     // An archive of no members: minizip finds no end record at the very start of the file.
     WriteZip(folder.Path("nothing.wrg"), {});
     // An archive cut short has lost its central directory.
-    TiXmlDocument document;
-    MakeDocument(document);
-    Writer::Write(document, folder.Path("whole.wrg"), {{u"Meshes/Mesh_1.stl", MakeMesh(50)}},
-                  tqWorkRig::WorkRigFileWriter::Default);
-    const Bytes whole = ReadFileBytes(folder.Path("whole.wrg"));
+    const Bytes whole = Zipped(folder, {Xml(), Stl("Meshes/Mesh_1.stl", 50)});
     WriteFileBytes(folder.Path("cut.wrg"), whole.substr(0, whole.size() - 30));
     for (const std::string& path :
          {folder.Path("plain.xml"), folder.Path("empty.wrg"), folder.Path("missing.wrg"), folder.Path(),
@@ -186,6 +182,7 @@ TEST(ArchiveDataReader, UnsafeNamesAndUnreadableFoldersAreRefused) {
     const std::vector<ZipMember> folders[] = {{{"Meshes/sub/", ""}},
                                               {{"Meshes/sub/Mesh_1.stl", stl}},
                                               {{"Meshes", "x"}, {"Meshes/Mesh_1.stl", stl}},
+                                              {{"Meshes", "x"}, {"Meshes/", ""}},
                                               {{"WorkRig.xml/", ""}}};
     for (std::vector<ZipMember> members : folders) {
         members.insert(members.begin(), Xml());
@@ -423,20 +420,17 @@ TEST(ArchiveDataReader, DocumentNestedTooDeepIsRefused) {
 }
 
 TEST(ArchiveDataReader, ReadingLeavesNoTemporaryFiles) {
+    // Nothing is unpacked to disk, neither by a load nor by a refusal.
     TempFolder folder, temporary;
     const char* old = std::getenv("TMPDIR");
     const std::string saved = old != nullptr ? old : "";
     setenv("TMPDIR", temporary.Path().c_str(), 1);
-    TiXmlDocument document;
-    MakeDocument(document);
-    Writer::Write(document, folder.Path("good.wrg"), {{u"Meshes/Mesh_1.stl", MakeMesh(20)}},
-                  tqWorkRig::WorkRigFileWriter::Default);
-    Reader::Read(folder.Path("good.wrg"));
-    EXPECT_THROW(Reader::Read(Craft(folder, {Xml(), {"../x", ""}})), misc::tqException);
+    Reader::Read(Craft(folder, {Xml(), Stl("Meshes/Mesh_1.stl", 20)}));
+    ExpectRefused(folder, Zipped(folder, {Xml(), {"../x", ""}}));
     if (old != nullptr)
         setenv("TMPDIR", saved.c_str(), 1);
     else
         unsetenv("TMPDIR");
     EXPECT_TRUE(temporary.List().empty());
-    EXPECT_EQ(folder.List(), (std::vector<std::string>{"good.wrg", "rig.wrg"}));
+    EXPECT_EQ(folder.List(), (std::vector<std::string>{"crafted.wrg", "rig.wrg"}));
 }

@@ -1,8 +1,9 @@
 """Reads a work rig archive with Python's zipfile and checks its layout: the members, their method, their
-zeroed records, the document's last byte and the STL sizes."""
+zeroed records, the document (well-formed, ending in its last '>') and the STL sizes."""
 import struct
 import sys
 import zipfile
+from xml.etree import ElementTree
 
 
 def main(path):
@@ -22,8 +23,9 @@ def main(path):
             allowed = (0, 1) if info.filename == "WorkRig.xml" else (0,)
             assert info.external_attr == 0 and info.internal_attr in allowed, info.filename
             assert info.date_time[3:] == (0, 0, 0), info.date_time
-        xml = archive.read("WorkRig.xml")
-        assert xml.startswith(b"<?xml") and xml.endswith(b">"), xml[-20:]
+        document = archive.read("WorkRig.xml")
+        assert document.startswith(b"<?xml") and document.endswith(b">"), document[-20:]
+        assert ElementTree.fromstring(document).tag == "WorkRig"
         for name in names[1:]:
             stl = archive.read(name)
             assert stl[:8] == b"STL File" and stl[8:80] == b" " * 72, name

@@ -1,15 +1,14 @@
 // tqMathException: the ten prefixes, the detail after them, and the exception's clone and rethrow.
 #include "cadcam/geometry/tqmathexception.h"
 
+#include <utility>
+
 #include "support/tqtest.h"
 
 using cadcam::tqMathException;
 
 TEST(TqMathException, EachTypeChoosesItsPrefixAndTheDetailFollows) {
-    const struct {
-        tqMathException::Type type;
-        const char* prefix;
-    } cases[] = {
+    const std::pair<tqMathException::Type, const char*> cases[] = {
         {tqMathException::DivisionByZero, "Division by zero: "},
         {tqMathException::MatrixNotSquare, "Matrix not square: "},
         {tqMathException::IncompatibleVectors, "Incompatible vectors: "},
@@ -23,10 +22,10 @@ TEST(TqMathException, EachTypeChoosesItsPrefixAndTheDetailFollows) {
         {static_cast<tqMathException::Type>(42), "Undefined MATH EXCEPTION TYPE!!! Please review tqMathException: "},
     };
     for (const auto& c : cases) {
-        const tqMathException e(c.type, u"detail");
-        EXPECT_EQ(misc::to_utf8(e.GetMessage()), std::string(c.prefix) + "detail");
+        const tqMathException e(c.first, u"detail");
+        EXPECT_EQ(misc::to_utf8(e.GetMessage()), std::string(c.second) + "detail");
         EXPECT_EQ(e.GetCode(), 0);
-        EXPECT_EQ(e.GetType(), c.type);
+        EXPECT_EQ(e.GetType(), c.first);
         EXPECT_EQ(e.GetDetail(), misc::tqstring(u"detail"));
     }
 }

@@ -1,4 +1,5 @@
-// Helpers of the barrel tool tests: the texts the rules must carry, and the number a construction raises.
+// Helpers of the barrel tool tests: the texts the rules must carry, the number a construction raises, and tables of
+// changed parameter sets.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,6 +8,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "cadcam/tools/tqcadcamexception.h"
 #include "misc/tqstring.h"
@@ -16,8 +18,6 @@ namespace barreltest {
 /// The text a failure of this number must carry: written out for numbers with a text, the default otherwise.
 inline std::string ExpectedText(std::int32_t number) {
     static const std::map<std::int32_t, std::string> texts = {
-        {2103, "Invalid flute length"},
-        {2105, "Invalid tool diameter"},
         {2107, "Invalid shoulder length"},
         {2109, "Unknown corner radius type"},
         {2122, "Taper angle must be >=0.1 and <=89."},
@@ -73,5 +73,23 @@ std::int32_t RaisedBy(Build build) {
 /// The next double above or below x.
 inline double Up(double x) { return std::nextafter(x, HUGE_VAL); }
 inline double Down(double x) { return std::nextafter(x, -HUGE_VAL); }
+
+/// A change to a parameter set and the number the construction must then raise (0: it builds).
+template <class P>
+struct Case {
+    const char* what;
+    void (*change)(P&);
+    std::int32_t number;
+};
+
+/// Applies each case to base and checks what make raises for it.
+template <class P, class Make>
+void ExpectCases(const P& base, const std::vector<Case<P>>& cases, Make make) {
+    for (const Case<P>& c : cases) {
+        P p = base;
+        c.change(p);
+        EXPECT_EQ(RaisedBy([&] { make(p); }), c.number) << c.what;
+    }
+}
 
 }  // namespace barreltest

@@ -1,7 +1,5 @@
-// tqBarrelTaperMill: parameters read back, the default extender, and every rule at its boundary.
+// tqBarrelTaperMill: every rule at its boundary, the cone within the diameter.
 #include "cadcam/tools/barrel/tqbarreltapermill.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -9,9 +7,7 @@
 
 namespace {
 
-using barreltest::Down;
-using barreltest::RaisedBy;
-using barreltest::Up;
+using namespace barreltest;
 using Mill = cadcam::tqBarrelTaperMill;
 
 // The barrel's centre (−1, sqrt(27)), radius 6, through (2, 0); the neck leaves it at (3, sqrt(27) + sqrt(20)).
@@ -22,74 +18,43 @@ struct Params {
 Mill Make(const Params& p) {
     return Mill(measures::tqUnitsFactory::Metric, {}, {}, p.d, p.lf, p.ls, p.du, p.alpha, p.rl, p.rp, p.ru, p.dfl);
 }
-
-TEST(tqBarrelTaperMill, ReadsBackItsParametersAndDefaultExtender) {
-    const Mill mill = Make(Params());
-    EXPECT_EQ(mill.GetDiameter(), 10);
-    EXPECT_EQ(mill.GetFluteLength(), 20);
-    EXPECT_EQ(mill.GetShoulderLength(), 40);
-    EXPECT_EQ(mill.GetUpperDiameter(), 6);
-    EXPECT_EQ(mill.GetTaperAngle(), 5);
-    EXPECT_EQ(mill.GetLowerRadius(), 0.5);
-    EXPECT_EQ(mill.GetProfileRadius(), 6);
-    EXPECT_EQ(mill.GetUpperRadius(), 1);
-    EXPECT_EQ(mill.GetFlatnessDiameter(), 4);
-    EXPECT_EQ(mill.GetShoulderDefinitionExtender().GetDiameter(), 10);
-    EXPECT_EQ(mill.GetShoulderDefinitionExtender().GetLength(), 20);
-}
+/// The height at which the cone from the neck reaches the radius 5.
+double Reach() { return std::sqrt(27.0) + std::sqrt(20.0) + 2 / std::tan(5 * std::acos(-1.0) / 180); }
 
 TEST(tqBarrelTaperMill, EachRuleFiresAtItsBoundary) {
-    struct Case {
-        const char* what;
-        void (*change)(Params&);
-        int number;
-    };
-    const Case cases[] = {
-        {"upper diameter 0, before 2122", [](Params& p) { p.du = 0, p.alpha = 0; }, 2309},
-        {"upper diameter NaN", [](Params& p) { p.du = NAN; }, 2309},
-        {"taper angle 0.05", [](Params& p) { p.alpha = 0.05; }, 2122},
-        {"taper angle 0.1", [](Params& p) { p.alpha = 0.1; }, 0},
-        {"taper angle 89: the cone leaves the diameter", [](Params& p) { p.alpha = 89; }, 3437},
-        {"taper angle 89.5", [](Params& p) { p.alpha = 89.5; }, 2122},
-        {"profile radius 0", [](Params& p) { p.rp = 0; }, 2166},
-        {"negative flatness diameter", [](Params& p) { p.dfl = -1e-300; }, 2281},
-        {"flatness diameter = D", [](Params& p) { p.dfl = 10; }, 2281},
-        {"no flat", [](Params& p) { p.dfl = 0, p.rl = 0, p.rp = 5; }, 0},
-        {"barrel rises from the flat's end", [](Params& p) { p.rp = 3; }, 0},
-        {"barrel too small to reach the flat", [](Params& p) { p.rp = Down(3); }, 2284},
-        {"negative lower radius", [](Params& p) { p.rl = -1e-300; }, 2296},
-        {"negative upper radius", [](Params& p) { p.ru = -1e-300; }, 3433},
-        {"upper diameter = D", [](Params& p) { p.du = 10; }, 2312},
-        {"upper diameter just below: the blend passes the widest point", [](Params& p) { p.du = Down(10); }, 3437},
-        // Rp = 5 and a flat of 6 put the barrel's centre at (0, 4): the lower radicand (5 − r)² − (r − 4)².
-        {"lower radius = profile radius", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = 5; }, 2297},
-        {"lower radicand 0", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = 4.5; }, 2298},
-        {"lower radicand just below 0", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = Up(4.5); }, 2297},
-        {"lower radius up to the widest point", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = 4; }, 0},
-        {"lower radius past the widest point", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = Up(4); }, 2298},
-        // Rp = 2 and a flat of 8 put the barrel's centre at x = 3: a neck of diameter 6 leaves its top.
-        {"neck at the barrel's centre", [](Params& p) { p.rp = 2, p.dfl = 8, p.rl = 0, p.ru = 0, p.lf = 10; }, 0},
-        {"neck just left of the barrel's centre",
-         [](Params& p) { p.rp = 2, p.dfl = 8, p.rl = 0, p.ru = 0, p.lf = 10, p.du = Down(6); }, 3435},
-        {"neck blend ends above the flutes", [](Params& p) { p.lf = std::sqrt(27.0) + std::sqrt(20.0) + 0.1; }, 3437},
-        {"neck close to the widest point", [](Params& p) { p.du = 9.8, p.alpha = 0.1; }, 0},
-    };
-    for (const Case& c : cases) {
-        Params p;
-        c.change(p);
-        EXPECT_EQ(RaisedBy([&] { Make(p); }), c.number) << c.what;
-    }
-}
-
-TEST(tqBarrelTaperMill, TheConeMustEndWithinTheDiameter) {
-    // The cone from the neck reaches the radius 5 at this height.
-    const double reach = std::sqrt(27.0) + std::sqrt(20.0) + 2 / std::tan(5 * std::acos(-1.0) / 180);
-    Params p;
-    p.lf = reach * (1 - 1e-9);
-    EXPECT_EQ(RaisedBy([&] { Make(p); }), 0);
-    EXPECT_EQ(Make(p).GetShoulderDefinitionExtender().GetDiameter(), 10);
-    p.lf = reach * (1 + 1e-9);
-    EXPECT_EQ(RaisedBy([&] { Make(p); }), 3437);
+    ExpectCases<Params>(
+        Params(),
+        {{"upper diameter 0, before 2122", [](Params& p) { p.du = 0, p.alpha = 0; }, 2309},
+         {"upper diameter NaN", [](Params& p) { p.du = NAN; }, 2309},
+         {"taper angle 0.05", [](Params& p) { p.alpha = 0.05; }, 2122},
+         {"taper angle 0.1", [](Params& p) { p.alpha = 0.1; }, 0},
+         {"taper angle 89: the cone leaves the diameter", [](Params& p) { p.alpha = 89; }, 3437},
+         {"taper angle 89.5", [](Params& p) { p.alpha = 89.5; }, 2122},
+         {"profile radius 0", [](Params& p) { p.rp = 0; }, 2166},
+         {"negative flatness diameter", [](Params& p) { p.dfl = -1e-300; }, 2281},
+         {"flatness diameter = D", [](Params& p) { p.dfl = 10; }, 2281},
+         {"no flat", [](Params& p) { p.dfl = 0, p.rl = 0, p.rp = 5; }, 0},
+         {"barrel rises from the flat's end", [](Params& p) { p.rp = 3; }, 0},
+         {"barrel too small to reach the flat", [](Params& p) { p.rp = Down(3); }, 2284},
+         {"negative lower radius", [](Params& p) { p.rl = -1e-300; }, 2296},
+         {"negative upper radius", [](Params& p) { p.ru = -1e-300; }, 3433},
+         {"upper diameter = D", [](Params& p) { p.du = 10; }, 2312},
+         {"upper diameter just below: the blend passes the widest point", [](Params& p) { p.du = Down(10); }, 3437},
+         // Rp = 5 and a flat of 6 put the barrel's centre at (0, 4): the lower radicand (5 − r)² − (r − 4)².
+         {"lower radius = profile radius", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = 5; }, 2297},
+         {"lower radicand 0", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = 4.5; }, 2298},
+         {"lower radicand just below 0", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = Up(4.5); }, 2297},
+         {"lower radius up to the widest point", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = 4; }, 0},
+         {"lower radius past the widest point", [](Params& p) { p.rp = 5, p.dfl = 6, p.rl = Up(4); }, 2298},
+         // Rp = 2 and a flat of 8 put the barrel's centre at x = 3: a neck of diameter 6 leaves its top.
+         {"neck at the barrel's centre", [](Params& p) { p.rp = 2, p.dfl = 8, p.rl = 0, p.ru = 0, p.lf = 10; }, 0},
+         {"neck just left of the barrel's centre",
+          [](Params& p) { p.rp = 2, p.dfl = 8, p.rl = 0, p.ru = 0, p.lf = 10, p.du = Down(6); }, 3435},
+         {"neck blend ends above the flutes", [](Params& p) { p.lf = std::sqrt(27.0) + std::sqrt(20.0) + 0.1; }, 3437},
+         {"neck close to the widest point", [](Params& p) { p.du = 9.8, p.alpha = 0.1; }, 0},
+         {"cone ends within the diameter", [](Params& p) { p.lf = Reach() * (1 - 1e-9); }, 0},
+         {"cone leaves the diameter", [](Params& p) { p.lf = Reach() * (1 + 1e-9); }, 3437}},
+        Make);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include "cadcam/geometry/tq2darc.h"
 #include "cadcam/geometry/tq2dcontourproperties.h"
 #include "cadcam/tools/parts/tqcuttingpartdefinition.h"
-#include "cadcam/tools/solids/tqextrudedsoliddefinition.h"
 #include "othertestsupport.h"
 #include "tools/shape/profiletoolkit.h"
 
@@ -16,7 +15,6 @@ namespace othertest {
 namespace {
 
 using cadcam::tqOpticDiamondTool;
-using E = cadcam::tqcadcamException;
 
 struct Optic {
     double radius, included;
@@ -42,28 +40,6 @@ Optic With(Optic o, double Optic::*field, double value) {
 Optic Type(Optic o, int radiusType) {
     o.radiusType = radiusType;
     return o;
-}
-
-TEST(tqOpticDiamondTool, ATypicalToolReadsBackAndScales) {
-    const tqOpticDiamondTool tool = Make({0.5, 60, 1, 7, -5, 2, 10, 4, 1});
-    EXPECT_EQ(tool.GetRadius(), 0.5);
-    EXPECT_EQ(tool.GetIncludedAngle(), 60);
-    EXPECT_EQ(tool.GetClearanceType(), tqOpticDiamondTool::CT_CYLINDRICAL);
-    EXPECT_EQ(tool.GetClearanceAngle(), 7);
-    EXPECT_EQ(tool.GetRakeAngle(), -5);
-    EXPECT_EQ(tool.GetRadiusType(), tqOpticDiamondTool::RT_RIGHT);
-    EXPECT_EQ(tool.GetLength(), 10);
-    EXPECT_EQ(tool.GetWidth(), 4);
-    EXPECT_EQ(tool.GetThickness(), 1);
-    ExpectScaledByUnits<tqOpticDiamondTool>(
-        tool,
-        [](const tqOpticDiamondTool& t) {
-            return std::vector<double>{t.GetRadius(), t.GetLength(), t.GetWidth(), t.GetThickness()};
-        },
-        [](const tqOpticDiamondTool& t) {
-            return std::vector<double>{t.GetIncludedAngle(), double(t.GetClearanceType()), t.GetClearanceAngle(),
-                                       t.GetRakeAngle(), double(t.GetRadiusType())};
-        });
 }
 
 TEST(tqOpticDiamondTool, EachRuleFiresAtItsBoundaryInOrder) {
@@ -98,6 +74,10 @@ TEST(tqOpticDiamondTool, EachRuleFiresAtItsBoundaryInOrder) {
     const double hwSide = 4.0 / 2 / cadcam::shape::TanDegrees(60.0);
     EXPECT_THROW_CODE(Make(Type(With(kFull, &Optic::length, hwSide), 1)), E, 3404, sizeText);
     EXPECT_NO_THROW(Make(Type(With(kFull, &Optic::length, std::nextafter(hwSide, 10.0)), 2)));
+    using O = tqOpticDiamondTool;
+    ExpectScaledByUnits<O>(Make({0.5, 60, 1, 7, -5, 2, 10, 4, 1}),
+                           {&O::GetRadius, &O::GetLength, &O::GetWidth, &O::GetThickness},
+                           {&O::GetIncludedAngle, &O::GetClearanceAngle, &O::GetRakeAngle});
 }
 
 TEST(tqOpticDiamondTool, TheNoseMustFitItsEdges) {
@@ -114,15 +94,10 @@ TEST(tqOpticDiamondTool, TheNoseMustFitItsEdges) {
     }
 }
 
-/// The nose arc of the blade, after checking the solid lies in the turning plane with the tool's thickness.
+/// The nose arc of the blade, whose solid lies in the turning plane over the tool's thickness.
 cadcam::tq2dArc<double> Nose(const tqOpticDiamondTool& tool, std::size_t count) {
-    const auto solid = tool.GetCuttingPart()->GetSolid().DynamicCast<cadcam::tqExtrudedSolidDefinition<double>>();
-    if (solid.IsNull() || solid->GetContours().size() != 1) throw std::logic_error("not a one-contour extrusion");
-    EXPECT_EQ(solid->GetExtrusionVector(), cadcam::tqTPoint3d<double>(0, -tool.GetThickness(), 0));
-    EXPECT_EQ(solid->GetPlaneZ(), 0.0);
-    const cadcam::tq2dContourProperties<double> items(solid->GetContours()[0]);
-    EXPECT_TRUE(cadcam::tqIsClosedContinuousAndSimple(solid->GetContours()[0]));
-    EXPECT_GT(items.GetSignedArea(), 0);
+    const cadcam::tq2dContourProperties<double> items(
+        tqtest::TurningPlaneContour(*tool.GetCuttingPart(), 0, tool.GetThickness()));
     EXPECT_EQ(items.GetCount(), count);
     if (items.GetArc(0) == nullptr) throw std::logic_error("no nose");
     return *items.GetArc(0);

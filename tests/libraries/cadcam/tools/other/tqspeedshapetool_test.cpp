@@ -1,4 +1,4 @@
-// tqSpeedShapeTool: any values are taken; lengths scale, angles do not.
+// tqSpeedShapeTool: any values are taken, lengths scale and angles do not, and its cutting part is its envelope.
 #include "cadcam/tools/other/tqspeedshapetool.h"
 
 #include "cadcam/geometry/tq2dcontourproperties.h"
@@ -9,28 +9,22 @@
 namespace othertest {
 namespace {
 
-using cadcam::tqSpeedShapeTool;
+using S = cadcam::tqSpeedShapeTool;
 
-std::vector<double> Lengths(const tqSpeedShapeTool& t) {
-    return {t.GetWidth(), t.GetLength(), t.GetCornerRadius(), t.GetConicLength(), t.GetArcRadius(), t.GetDepth()};
+misc::tqAutoPointer<cadcam::tqExtrudedSolidDefinition<double>> Envelope(const S& tool) {
+    return tool.GetCuttingPart()->GetSolid().DynamicCast<cadcam::tqExtrudedSolidDefinition<double>>();
 }
 
 TEST(tqSpeedShapeTool, TakesAnyValuesAndScalesOnlyLengths) {
-    const tqSpeedShapeTool tool(kMetric, Arbor(), Holder(), 10, 30, 1, 8, 20, 5, 40, 3);
-    EXPECT_EQ(Lengths(tool), (std::vector<double>{10, 30, 1, 8, 40, 3}));
-    EXPECT_EQ(tool.GetConicAngle(), 20);
-    EXPECT_EQ(tool.GetRampAngle(), 5);
-    EXPECT_NO_THROW(tqSpeedShapeTool(kMetric, Arbor(), Holder(), 0, -1, -2, 0, 400, -400, 0, 0));
-    ExpectScaledByUnits<tqSpeedShapeTool>(tool, Lengths, [](const tqSpeedShapeTool& t) {
-        return std::vector<double>{t.GetConicAngle(), t.GetRampAngle()};
-    });
+    EXPECT_NO_THROW(S(kMetric, Arbor(), Holder(), 0, -1, -2, 0, 400, -400, 0, 0));
+    ExpectScaledByUnits<S>(
+        S(kMetric, Arbor(), Holder(), 10, 30, 1, 8, 20, 5, 40, 3),
+        {&S::GetWidth, &S::GetLength, &S::GetCornerRadius, &S::GetConicLength, &S::GetArcRadius, &S::GetDepth},
+        {&S::GetConicAngle, &S::GetRampAngle});
 }
 
 TEST(tqSpeedShapeTool, ItsCuttingPartIsTheEnvelope) {
-    auto extrusion = [](const tqSpeedShapeTool& tool) {
-        return tool.GetCuttingPart()->GetSolid().DynamicCast<cadcam::tqExtrudedSolidDefinition<double>>();
-    };
-    const auto solid = extrusion(tqSpeedShapeTool(kMetric, Arbor(), Holder(), 10, 30, 1, 8, 20, 5, 40, 3));
+    const auto solid = Envelope(S(kMetric, Arbor(), Holder(), 10, 30, 1, 8, 20, 5, 40, 3));
     ASSERT_TRUE(solid.IsNotNull());
     EXPECT_EQ(solid->GetExtrusionVector(), cadcam::tqTPoint3d<double>(0, -3, 0));
     ASSERT_EQ(solid->GetContours().size(), 1u);
@@ -40,8 +34,7 @@ TEST(tqSpeedShapeTool, ItsCuttingPartIsTheEnvelope) {
     EXPECT_EQ(items.GetStart(2), cadcam::tqPoint2d(5, 30));
     EXPECT_GT(items.GetSignedArea(), 0);
     // Without a positive size there is nothing to show.
-    EXPECT_TRUE(
-        extrusion(tqSpeedShapeTool(kMetric, Arbor(), Holder(), 10, 30, 1, 8, 20, 5, 40, 0))->GetContours().empty());
+    EXPECT_TRUE(Envelope(S(kMetric, Arbor(), Holder(), 10, 30, 1, 8, 20, 5, 40, 0))->GetContours().empty());
 }
 
 }  // namespace

@@ -1,30 +1,25 @@
 // tqDefaultToolParts: the default arbors and holders in both unit systems, and the choice by the tool's class.
 #include "cadcam/tools/parts/tqdefaulttoolparts.h"
 
-#include "cadcam/geometry/tq2dline.h"
 #include "cadcam/tools/other/tqwiretool.h"
 #include "cadcam/tools/revolved/tqendmill.h"
 #include "cadcam/tools/solids/tqcontourturningsoliddefinition.h"
-#include "cadcam/tools/solids/tqrevolvedsoliddefinition.h"
 #include "cadcam/tools/solids/tqturningsoliddefinition.h"
-#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/turning/tqcontourturningtool.h"
 #include "cadcam/tools/turning/tqgrooveturningtool.h"
 #include "cadcam/tools/turning/tqroundturningtool.h"
-#include "support/tqtest.h"
+#include "partsamples.h"
 
 namespace {
 
 using cadcam::tqDefaultToolParts;
-using Units = measures::tqUnitsFactory::Units;
 using Turning = cadcam::tqTurningSolidDefinition<double>;
-constexpr Units kMetric = measures::tqUnitsFactory::Metric;
-constexpr Units kInch = measures::tqUnitsFactory::Inch;
+using tqtest::kInch;
+using tqtest::kMetric;
 
 const cadcam::tq2dContour<double>& ProfileOf(const cadcam::tqToolPartDefinition<double>& part) {
     return dynamic_cast<const cadcam::tqRevolvedSolidDefinition<double>&>(*part.GetSolid()).GetProfile();
 }
-
 const Turning& TurningOf(const cadcam::tqToolPartDefinition<double>& part) {
     return dynamic_cast<const Turning&>(*part.GetSolid());
 }
@@ -50,13 +45,14 @@ TEST(tqDefaultToolParts, EachTurningHolderValidatesWithItsInsertAndType) {
     const Turning::Type types[] = {Turning::GENERIC_TYPE_A, Turning::GENERIC_TYPE_B, Turning::GENERIC_TYPE_B,
                                    Turning::GENERIC_TYPE_A, Turning::GENERIC_TYPE_A, Turning::GENERIC_TYPE_A,
                                    Turning::GENERIC_TYPE_E, Turning::GENERIC_TYPE_A, Turning::GENERIC_TYPE_F};
-    for (Units units : {kMetric, kInch}) {
+    for (auto units : {kMetric, kInch}) {
         for (int insert = 0; insert <= 8; ++insert) {
+            SCOPED_TRACE(insert);
             const auto holder = tqDefaultToolParts::TurningHolder(units, insert);
             const Turning& solid = TurningOf(*holder);
-            EXPECT_NO_THROW(solid.Validate()) << insert;
+            EXPECT_NO_THROW(solid.Validate());
             EXPECT_EQ(solid.GetInsert(), insert);
-            EXPECT_EQ(solid.GetType(), types[insert]) << insert;
+            EXPECT_EQ(solid.GetType(), types[insert]);
             EXPECT_EQ(solid.GetHeight(), units == kMetric ? 125 : 5);
             EXPECT_EQ(solid.GetHand(), Turning::H_RIGHT);
             EXPECT_EQ(solid.GetUnits(), units);
@@ -85,14 +81,10 @@ TEST(tqDefaultToolParts, TheToolsClassAndUnitsChooseTheParts) {
     const Groove groove(kMetric, {}, holder, 4, Groove::TYPE_A, 0.2, 20, 3, 5, 4, 30);
     EXPECT_EQ(TurningOf(*tqDefaultToolParts::HolderFor(groove)).GetInsert(), Turning::IN_GROOVE);
 
-    cadcam::tq2dContour<double> triangle;
-    const cadcam::tqPoint2d p[] = {{0, 0}, {5, 10}, {-5, 10}};
-    for (int i = 0; i < 3; ++i) {
-        triangle.Append(cadcam::tq2dContour<double>::Item(new cadcam::tq2dLine<double>(p[i], p[(i + 1) % 3])));
-    }
-    const cadcam::tqContourTurningTool contour(kMetric, {}, holder, 3,
-                                               cadcam::tqContourTurningSolidDefinition<double>(
-                                                   kMetric, 20, Turning::H_RIGHT, Turning::SK_RECTANGULAR, triangle));
+    const cadcam::tqContourTurningTool contour(
+        kMetric, {}, holder, 3,
+        cadcam::tqContourTurningSolidDefinition<double>(kMetric, 20, Turning::H_RIGHT, Turning::SK_RECTANGULAR,
+                                                        tqtest::Profile(0, 0).L(5, 10).L(-5, 10).L(0, 0).Get()));
     EXPECT_TRUE(tqDefaultToolParts::HolderFor(contour)->IsEqual(*tqDefaultToolParts::ContourTurningHolder(kMetric)));
     EXPECT_TRUE(tqDefaultToolParts::ArborFor(contour)->IsEqual(*tqDefaultToolParts::TurningArbor(kMetric)));
 }

@@ -61,4 +61,12 @@ inline void ExpectProfile(const cadcam::tq2dContour<double>& profile, Point star
     }
 }
 
+/// Expects profile to open with an arc from the tip about a centre on the axis: a full corner radius.
+inline void ExpectArcAtTheTip(const cadcam::tq2dContour<double>& profile) {
+    const auto arc = profile.GetItem(0).DynamicCast<cadcam::tq2dArc<double>>();
+    ASSERT_TRUE(arc.IsNotNull());
+    EXPECT_EQ(arc->GetStart(), Point(0, 0));
+    EXPECT_EQ(arc->GetCentre().x, 0);
+}
+
 }  // namespace profilecheck

@@ -3,12 +3,12 @@
 
 #include <cmath>
 
-#include "drillingtestutil.h"
+#include "revolvedtest.h"
 #include "tools/shape/profiletoolkit.h"
 
 namespace taptest {
 
-using namespace drillingtest;
+using namespace revolvedtest;
 using cadcam::shape::ConeHeight;
 using cadcam::shape::TanDegrees;
 
@@ -18,11 +18,6 @@ struct P {
     double angle = 120;
     int threads = 8;
 };
-inline P With(void (*change)(P&)) {
-    P p;
-    change(p);
-    return p;
-}
 template <class Tap>
 Tap Make(const P& p) {
     return Tap(kMetric, {}, {}, p.d, p.lf, p.ls, p.rc, static_cast<typename Tap::CornerRadiusType>(p.crt), p.angle,
@@ -39,53 +34,33 @@ constexpr const char* kNegative = "Invalid corner radius, it must be >= 0.";
 constexpr const char* kAngle = "Tip angle must be >=1 and <=180.";
 constexpr const char* kTip = "Tip and shoulder do not intersect each other.";
 
+/// Each rule at its boundary and in order; then the full corner fits wherever the lead does: it is found from the
+/// shorter segment and its tangent point is assigned that segment's end, so rounding never pushes the fillet past the
+/// flutes (it would at 30° with 57/97 and at 135° with 96/97 of the lead).
 template <class Tap>
-void ExpectBuildsReadsBackAndScalesTheCornerRadius() {
-    Tap tap = Make<Tap>(P());
-    EXPECT_EQ(tap.GetCornerRadius(), 1);
-    EXPECT_EQ(tap.GetCornerRadiusType(), Tap::CRT_CORNER);
-    EXPECT_EQ(tap.GetTipAngle(), 120);
-    EXPECT_EQ(tap.GetThreadsNumber(), 8);
-    EXPECT_EQ(tap.GetShoulderDefinitionExtender().GetDiameter(), 10);
-    EXPECT_EQ(tap.GetShoulderDefinitionExtender().GetLength(), 20);
-    EXPECT_NE(tap, Make<Tap>(With([](P& p) { p.threads = 9; })));
-    tap.SetUnits(kInch);
-    EXPECT_EQ(tap.GetCornerRadius(), 1 * (1 / 25.4));
-    EXPECT_EQ(tap.GetTipAngle(), 120);
-    EXPECT_EQ(tap.GetThreadsNumber(), 8);
-}
-
-template <class Tap>
-void ExpectRulesAtTheirBoundariesInOrder() {
-    ExpectRules<P>({{With([](P& p) { p.crt = 3; }), 2109, kCrt},
-                    {With([](P& p) { p.crt = -1; }), 2109, kCrt},
-                    {With([](P& p) { p.crt = 0, p.rc = -std::numeric_limits<double>::denorm_min(); }), 2163, kNegative},
-                    {With([](P& p) { p.rc = kNaN; }), 2163, kNegative},
-                    {With([](P& p) { p.angle = Down(1); }), 2113, kAngle},
-                    {With([](P& p) { p.angle = Up(180); }), 2113, kAngle},
-                    {With([](P& p) { p.angle = kNaN; }), 2113, kAngle},
-                    {With([](P& p) { p.crt = 0, p.lf = Down(Lead()); }), 2112, kTip},
-                    {With([](P& p) { p.crt = 2, p.lf = Down(Lead()); }), 2112, kTip},
-                    {With([](P& p) { p.angle = 180, p.rc = 2, p.lf = Down(FlatT()); }), 2112, kTip},
-                    {With([](P& p) { p.angle = 180, p.rc = 5 / TanDegrees(45) * (1 + 1e-12); }), 2112, kTip},
-                    {With([](P& p) { p.rc = kInf; }), 2112, kTip},
+void ExpectTapRules() {
+    ExpectRules<P>({{[](P& p) { p.crt = 3; }, 2109, kCrt},
+                    {[](P& p) { p.crt = -1; }, 2109, kCrt},
+                    {[](P& p) { p.crt = 0, p.rc = -kTiny; }, 2163, kNegative},
+                    {[](P& p) { p.rc = kNaN; }, 2163, kNegative},
+                    {[](P& p) { p.angle = Down(1); }, 2113, kAngle},
+                    {[](P& p) { p.angle = Up(180); }, 2113, kAngle},
+                    {[](P& p) { p.angle = kNaN; }, 2113, kAngle},
+                    {[](P& p) { p.crt = 0, p.lf = Down(Lead()); }, 2112, kTip},
+                    {[](P& p) { p.crt = 2, p.lf = Down(Lead()); }, 2112, kTip},
+                    {[](P& p) { p.angle = 180, p.rc = 2, p.lf = Down(FlatT()); }, 2112, kTip},
+                    {[](P& p) { p.angle = 180, p.rc = 5 / TanDegrees(45) * (1 + 1e-12); }, 2112, kTip},
+                    {[](P& p) { p.rc = kInf; }, 2112, kTip},
                     // The first broken rule decides.
-                    {With([](P& p) { p.d = 0, p.crt = 3; }), 2105, "Invalid tool diameter"},
-                    {With([](P& p) { p.crt = 3, p.rc = -1; }), 2109, kCrt},
-                    {With([](P& p) { p.rc = -1, p.angle = 0; }), 2163, kNegative},
-                    {With([](P& p) { p.angle = 0, p.lf = 1e-9; }), 2113, kAngle}},
+                    {[](P& p) { p.d = 0, p.crt = 3; }, 2105, "Invalid tool diameter"},
+                    {[](P& p) { p.crt = 3, p.rc = -1; }, 2109, kCrt},
+                    {[](P& p) { p.rc = -1, p.angle = 0; }, 2163, kNegative},
+                    {[](P& p) { p.angle = 0, p.lf = 1e-9; }, 2113, kAngle}},
+                   {[](P& p) { p.crt = 0, p.lf = Lead(); }, [](P& p) { p.crt = 0, p.rc = 100; },
+                    [](P& p) { p.angle = 180, p.rc = 2, p.lf = FlatT(); },
+                    [](P& p) { p.angle = 180, p.rc = 5 / TanDegrees(45) * (1 - 1e-12); },
+                    [](P& p) { p.angle = 1, p.lf = 1e3, p.ls = 1e3; }},
                    Make<Tap>);
-    ExpectBuilds<P>({With([](P& p) { p.crt = 0, p.lf = Lead(); }), With([](P& p) { p.crt = 0, p.rc = 100; }),
-                     With([](P& p) { p.angle = 180, p.rc = 2, p.lf = FlatT(); }),
-                     With([](P& p) { p.angle = 180, p.rc = 5 / TanDegrees(45) * (1 - 1e-12); }),
-                     With([](P& p) { p.angle = 1, p.lf = 1e3, p.ls = 1e3; })},
-                    Make<Tap>);
-}
-
-// The full radius is found from the shorter segment and its tangent point is assigned that segment's end, so
-// rounding never pushes the fillet past the flutes (it would at 30° with 57/97 and at 135° with 96/97 of the lead).
-template <class Tap>
-void ExpectTheFullCornerToFitWheneverTheLeadDoes() {
     for (const double angle : {1.0, 30.0, 59.0, 120.0, 135.0, 179.0, 180.0}) {
         const double lead = ConeHeight(5, angle / 2);
         const double side = std::hypot(5, lead);

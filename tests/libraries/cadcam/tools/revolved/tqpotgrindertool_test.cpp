@@ -1,23 +1,13 @@
-// tqPotGrinderTool: a pot grinder has only the common parameters, their rules and the default extender.
+// tqPotGrinderTool: a pot grinder has only the common parameters and their rules.
 #include "cadcam/tools/revolved/tqpotgrindertool.h"
 
-#include "drillingtestutil.h"
+#include "revolvedtest.h"
 
 namespace {
 
 using cadcam::tqPotGrinderTool;
 using Extender = cadcam::tqTypedRevolvedTool::tqShoulderDefinitionExtender;
-using namespace drillingtest;
-
-TEST(tqPotGrinderTool, BuildsWithTheDefaultExtenderAtTheFlutes) {
-    const tqPotGrinderTool tool(kMetric, {}, {}, 10, 20, 40);
-    EXPECT_EQ(tool.GetDiameter(), 10);
-    EXPECT_EQ(tool.GetFluteLength(), 20);
-    EXPECT_EQ(tool.GetShoulderLength(), 40);
-    EXPECT_EQ(tool.GetShoulderDefinitionExtender(), Extender(kMetric, 10, 20));
-    EXPECT_EQ(tool, tqPotGrinderTool(kMetric, {}, {}, 10, 20, 40, Extender(kMetric, 10, 20)));
-    EXPECT_NE(tool, tqPotGrinderTool(kMetric, {}, {}, 10, 20, 40, Extender(kMetric, 10, 25)));
-}
+using namespace revolvedtest;
 
 TEST(tqPotGrinderTool, RunsTheCommonRules) {
     EXPECT_THROW_CODE(tqPotGrinderTool(kMetric, {}, {}, 0, 20, 40), cadcam::tqcadcamException, 2105,

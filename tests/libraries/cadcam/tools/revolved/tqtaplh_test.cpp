@@ -5,14 +5,8 @@
 
 namespace {
 
-using cadcam::tqTapLH;
-
-TEST(tqTapLH, BuildsReadsBackAndScalesTheCornerRadius) {
-    taptest::ExpectBuildsReadsBackAndScalesTheCornerRadius<tqTapLH>();
+TEST(tqTapLH, RulesFireAtTheirBoundariesInOrderAndTheFullCornerFitsWheneverTheLeadDoes) {
+    taptest::ExpectTapRules<cadcam::tqTapLH>();
 }
-
-TEST(tqTapLH, RulesFireAtTheirBoundariesInOrder) { taptest::ExpectRulesAtTheirBoundariesInOrder<tqTapLH>(); }
-
-TEST(tqTapLH, FullCornerFitsWheneverTheLeadDoes) { taptest::ExpectTheFullCornerToFitWheneverTheLeadDoes<tqTapLH>(); }
 
 }  // namespace

@@ -5,14 +5,8 @@
 
 namespace {
 
-using cadcam::tqTapRH;
-
-TEST(tqTapRH, BuildsReadsBackAndScalesTheCornerRadius) {
-    taptest::ExpectBuildsReadsBackAndScalesTheCornerRadius<tqTapRH>();
+TEST(tqTapRH, RulesFireAtTheirBoundariesInOrderAndTheFullCornerFitsWheneverTheLeadDoes) {
+    taptest::ExpectTapRules<cadcam::tqTapRH>();
 }
-
-TEST(tqTapRH, RulesFireAtTheirBoundariesInOrder) { taptest::ExpectRulesAtTheirBoundariesInOrder<tqTapRH>(); }
-
-TEST(tqTapRH, FullCornerFitsWheneverTheLeadDoes) { taptest::ExpectTheFullCornerToFitWheneverTheLeadDoes<tqTapRH>(); }
 
 }  // namespace

@@ -7,11 +7,8 @@
 namespace {
 
 TEST(tqContourTurningSolidDefinitionExtractor, YieldsItsKindAndRefusesTheOthers) {
-    tqtest::ExpectExtractsOnly<cadcam::tqContourTurningSolidDefinitionExtractor<double>,
-                               cadcam::tqContourTurningSolidDefinition<double>, double>(
-        cadcam::SDT_CONTOUR_TURNING, 3414, u"Could not handle a contour turning solid definition.");
-    tqtest::ExpectExtractsOnly<cadcam::tqContourTurningSolidDefinitionExtractor<float>,
-                               cadcam::tqContourTurningSolidDefinition<float>, float>(
+    tqtest::ExpectExtractsOnly<cadcam::tqContourTurningSolidDefinitionExtractor,
+                               cadcam::tqContourTurningSolidDefinition>(
         cadcam::SDT_CONTOUR_TURNING, 3414, u"Could not handle a contour turning solid definition.");
 }
 

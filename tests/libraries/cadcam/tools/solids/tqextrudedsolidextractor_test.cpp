@@ -6,10 +6,8 @@
 namespace {
 
 TEST(tqExtrudedSolidExtractor, YieldsItsKindAndRefusesTheOthers) {
-    tqtest::ExpectExtractsOnly<cadcam::tqExtrudedSolidExtractor<double>, cadcam::tqExtrudedSolidDefinition<double>,
-                               double>(cadcam::SDT_EXTRUDED, 2171, u"Couldn't handle extruded solid definition");
-    tqtest::ExpectExtractsOnly<cadcam::tqExtrudedSolidExtractor<float>, cadcam::tqExtrudedSolidDefinition<float>,
-                               float>(cadcam::SDT_EXTRUDED, 2171, u"Couldn't handle extruded solid definition");
+    tqtest::ExpectExtractsOnly<cadcam::tqExtrudedSolidExtractor, cadcam::tqExtrudedSolidDefinition>(
+        cadcam::SDT_EXTRUDED, 2171, u"Couldn't handle extruded solid definition");
 }
 
 }  // namespace

@@ -27,9 +27,7 @@ void ExpectOnlyMeshSolidsGiveAMesh() {
 TEST(tqMeshSolidDefinitionGetMesh, SharesTheMeshOfAMeshSolidOnly) {
     ExpectOnlyMeshSolidsGiveAMesh<double>();
     ExpectOnlyMeshSolidsGiveAMesh<float>();
-}
-
-TEST(tqMeshSolidDefinitionGetMesh, AFailedVisitKeepsTheMesh) {
+    // A failed visit keeps the mesh found before.
     const auto solids = tqtest::OneOfEachKind<double>();
     tqMeshSolidDefinitionGetMesh<double> getter(*solids[cadcam::SDT_MESH]);
     EXPECT_THROW(solids[cadcam::SDT_REVOLVED]->AcceptVisitor(getter), cadcam::tqcadcamException);

@@ -6,9 +6,7 @@
 namespace {
 
 TEST(tqMeshSolidExtractor, YieldsItsKindAndRefusesTheOthers) {
-    tqtest::ExpectExtractsOnly<cadcam::tqMeshSolidExtractor<double>, cadcam::tqMeshSolidDefinition<double>, double>(
-        cadcam::SDT_MESH, 2172, u"Couldn't handle mesh solid definition");
-    tqtest::ExpectExtractsOnly<cadcam::tqMeshSolidExtractor<float>, cadcam::tqMeshSolidDefinition<float>, float>(
+    tqtest::ExpectExtractsOnly<cadcam::tqMeshSolidExtractor, cadcam::tqMeshSolidDefinition>(
         cadcam::SDT_MESH, 2172, u"Couldn't handle mesh solid definition");
 }
 

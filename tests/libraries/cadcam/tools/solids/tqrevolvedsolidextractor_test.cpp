@@ -6,10 +6,8 @@
 namespace {
 
 TEST(tqRevolvedSolidExtractor, YieldsItsKindAndRefusesTheOthers) {
-    tqtest::ExpectExtractsOnly<cadcam::tqRevolvedSolidExtractor<double>, cadcam::tqRevolvedSolidDefinition<double>,
-                               double>(cadcam::SDT_REVOLVED, 2170, u"Couldn't handle revolved solid definition");
-    tqtest::ExpectExtractsOnly<cadcam::tqRevolvedSolidExtractor<float>, cadcam::tqRevolvedSolidDefinition<float>,
-                               float>(cadcam::SDT_REVOLVED, 2170, u"Couldn't handle revolved solid definition");
+    tqtest::ExpectExtractsOnly<cadcam::tqRevolvedSolidExtractor, cadcam::tqRevolvedSolidDefinition>(
+        cadcam::SDT_REVOLVED, 2170, u"Couldn't handle revolved solid definition");
 }
 
 // Every extractor is made the same way; this one stands for all.

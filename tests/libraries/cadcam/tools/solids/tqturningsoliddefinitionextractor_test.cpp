@@ -6,11 +6,7 @@
 namespace {
 
 TEST(tqTurningSolidDefinitionExtractor, YieldsItsKindAndRefusesTheOthers) {
-    tqtest::ExpectExtractsOnly<cadcam::tqTurningSolidDefinitionExtractor<double>,
-                               cadcam::tqTurningSolidDefinition<double>, double>(
-        cadcam::SDT_TURNING, 2030, u"Could not handle turning solid definition.");
-    tqtest::ExpectExtractsOnly<cadcam::tqTurningSolidDefinitionExtractor<float>,
-                               cadcam::tqTurningSolidDefinition<float>, float>(
+    tqtest::ExpectExtractsOnly<cadcam::tqTurningSolidDefinitionExtractor, cadcam::tqTurningSolidDefinition>(
         cadcam::SDT_TURNING, 2030, u"Could not handle turning solid definition.");
 }
 

@@ -6,9 +6,7 @@
 namespace {
 
 TEST(tqWireSolidExtractor, YieldsItsKindAndRefusesTheOthers) {
-    tqtest::ExpectExtractsOnly<cadcam::tqWireSolidExtractor<double>, cadcam::tqWireSolidDefinition<double>, double>(
-        cadcam::SDT_WIRE, 2173, u"Couldn't handle wire solid definition");
-    tqtest::ExpectExtractsOnly<cadcam::tqWireSolidExtractor<float>, cadcam::tqWireSolidDefinition<float>, float>(
+    tqtest::ExpectExtractsOnly<cadcam::tqWireSolidExtractor, cadcam::tqWireSolidDefinition>(
         cadcam::SDT_WIRE, 2173, u"Couldn't handle wire solid definition");
 }
 

@@ -1,9 +1,6 @@
-// tqContourTurningTool: the contour solid it holds, the family rules, equality and scaling.
+// tqContourTurningTool: only the family rules, and the contour solid it holds scaled in a copy only.
 #include "cadcam/tools/turning/tqcontourturningtool.h"
 
-#include <vector>
-
-#include "cadcam/geometry/tq2dline.h"
 #include "turningtestsupport.h"
 
 namespace turningtest {
@@ -13,19 +10,8 @@ using cadcam::tqContourTurningTool;
 using ContourSolid = cadcam::tqContourTurningSolidDefinition<double>;
 
 ContourSolid Triangle(double size) {
-    cadcam::tq2dContour<double> contour;
-    const cadcam::tqPoint2d points[] = {{0, 0}, {size, size}, {-size, size}, {0, 0}};
-    for (int i = 1; i < 4; ++i) {
-        contour.Append(
-            misc::tqAutoPointer<cadcam::tq2dGeometry<double>>(new cadcam::tq2dLine<double>(points[i - 1], points[i])));
-    }
-    return ContourSolid(kMetric, 125, ContourSolid::H_RIGHT, ContourSolid::SK_RECTANGULAR, contour);
-}
-
-TEST(tqContourTurningTool, HoldsItsContourSolid) {
-    const tqContourTurningTool tool(kMetric, Arbor(), Holder(1), 3, Triangle(10));
-    EXPECT_EQ(tool.GetInsertThickness(), 3);
-    EXPECT_TRUE(tool.GetContourSolid() == Triangle(10));
+    return ContourSolid(kMetric, 125, ContourSolid::H_RIGHT, ContourSolid::SK_RECTANGULAR,
+                        Profile(0, 0).L(size, size).L(-size, size).L(0, 0).Get());
 }
 
 TEST(tqContourTurningTool, OnlyTheFamilyRulesApply) {
@@ -33,8 +19,8 @@ TEST(tqContourTurningTool, OnlyTheFamilyRulesApply) {
         tqContourTurningTool(kMetric, Arbor(), holder, thickness, Triangle(10));
     });
     // A contour turning solid is a turning holder as well.
-    misc::tqAutoPointer<cadcam::tqSolidDefinition<double>> solid(new ContourSolid(Triangle(40)));
-    const HolderPointer contourHolder(new cadcam::tqHolderDefinition<double>(kMetric, solid));
+    const HolderPointer contourHolder(
+        new cadcam::tqHolderDefinition<double>(kMetric, SolidPointer(new ContourSolid(Triangle(40)))));
     EXPECT_NO_THROW(tqContourTurningTool(kMetric, Arbor(), contourHolder, 3, Triangle(10)));
 }
 

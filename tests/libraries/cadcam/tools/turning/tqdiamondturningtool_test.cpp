@@ -15,29 +15,13 @@ tqDiamondTurningTool Make(double cornerRadius, double inscribedCircleDiameter, d
     return tqDiamondTurningTool(kMetric, Arbor(), Holder(1), 4.76, cornerRadius, inscribedCircleDiameter, formAngle);
 }
 
-TEST(tqDiamondTurningTool, ATypicalInsertReadsBackAndScales) {
-    const tqDiamondTurningTool insert = Make(0.8, 12.7, 55);
-    EXPECT_EQ(insert.GetCornerRadius(), 0.8);
-    EXPECT_EQ(insert.GetInscribedCircleDiameter(), 12.7);
-    EXPECT_EQ(insert.GetFormAngle(), 55);
-    ExpectScaledByUnits<tqDiamondTurningTool>(
-        insert,
-        [](const tqDiamondTurningTool& t) {
-            return std::vector<double>{t.GetInsertThickness(), t.GetCornerRadius(), t.GetInscribedCircleDiameter()};
-        },
-        [](const tqDiamondTurningTool& t) { return std::vector<double>{t.GetFormAngle()}; });
-}
-
 TEST(tqDiamondTurningTool, EachRuleFiresAtItsBoundaryInOrder) {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const char* angleText = "Form angle must be between 0 and 90 degrees.";
-    EXPECT_THROW_CODE(Make(0, 0, 0), cadcam::tqcadcamException, 2342, "Corner radius must be greater than 0.");
-    EXPECT_THROW_CODE(Make(0.8, 0, 0), cadcam::tqcadcamException, 2343,
-                      "Inscribed circle diameter must be greater than 0.");
-    EXPECT_THROW_CODE(Make(6.35, 12.7, 0), cadcam::tqcadcamException, 2344,
+    EXPECT_THROW_CODE(Make(0, 0, 0), E, 2342, "Corner radius must be greater than 0.");
+    EXPECT_THROW_CODE(Make(0.8, 0, 0), E, 2343, "Inscribed circle diameter must be greater than 0.");
+    EXPECT_THROW_CODE(Make(6.35, 12.7, 0), E, 2344,
                       "Corner radius must be less than half of inscribed circle diameter.");
-    for (double angle : {0.0, 90.0, -10.0, nan}) {
-        EXPECT_THROW_CODE(Make(0.8, 12.7, angle), cadcam::tqcadcamException, 2346, angleText);
+    for (double angle : {0.0, 90.0, -10.0, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_THROW_CODE(Make(0.8, 12.7, angle), E, 2346, "Form angle must be between 0 and 90 degrees.");
     }
     EXPECT_NO_THROW(Make(0.8, 12.7, std::nextafter(0.0, 1.0)));
     EXPECT_NO_THROW(Make(0.8, 12.7, std::nextafter(90.0, 0.0)));
@@ -45,6 +29,10 @@ TEST(tqDiamondTurningTool, EachRuleFiresAtItsBoundaryInOrder) {
     ExpectFamilyRulesFirst([](const HolderPointer& holder, double thickness) {
         tqDiamondTurningTool(kMetric, Arbor(), holder, thickness, 0, 0, 0);
     });
+    ExpectScaledByUnits<tqDiamondTurningTool>(
+        Make(0.8, 12.7, 55),
+        {&tqDiamondTurningTool::GetCornerRadius, &tqDiamondTurningTool::GetInscribedCircleDiameter},
+        {&tqDiamondTurningTool::GetFormAngle});
 }
 
 }  // namespace

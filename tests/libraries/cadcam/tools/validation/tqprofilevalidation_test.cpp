@@ -1,14 +1,11 @@
 // tqProfileValidation and its roles: each rule at its boundary with each role's number and text, rule order,
-// and the profiles the catalogue builds (default arbors and holders, heads with arcs).
+// and heads with arcs as the catalogue builds them.
 #include "cadcam/tools/validation/tqprofilevalidation.h"
 
 #include <cmath>
 #include <limits>
 #include <vector>
 
-#include "cadcam/geometry/tq2darc.h"
-#include "cadcam/geometry/tq2dcontour.h"
-#include "cadcam/geometry/tq2dline.h"
 #include "cadcam/geometry/tq2dpoint.h"
 #include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/validation/tqarborvalidation.h"
@@ -16,43 +13,16 @@
 #include "cadcam/tools/validation/tqholdervalidation.h"
 #include "cadcam/tools/validation/tqnoncuttingpartvalidation.h"
 #include "cadcam/tools/validation/tqtoolpartprofilevalidation.h"
-#include "support/tqtest.h"
+#include "libraries/cadcam/tools/parts/partsamples.h"
 
 using namespace cadcam;
 
 namespace {
 
+using Item = tqtest::Profile::Item;
 template <class T>
-using Item = misc::tqAutoPointer<tq2dGeometry<T>>;
-
-/// Builds a profile item by item from a start point: S(x,y), then L(...) and A(...) as in the design notes.
-template <class T>
-class Builder {
-public:
-    Builder(T x, T y) : m_at(x, y) {}
-    Builder& L(T x, T y) {
-        m_contour.Append(Item<T>(new tq2dLine<T>(m_at, {x, y})));
-        m_at = {x, y};
-        return *this;
-    }
-    /// An arc to (x, y) about (cx, cy), counterclockwise unless ccw is false.
-    Builder& A(T x, T y, T cx, T cy, bool ccw = true) {
-        const auto direction = ccw ? tqArcDirection::Counterclockwise : tqArcDirection::Clockwise;
-        m_contour.Append(Item<T>(new tq2dArc<T>(m_at, {x, y}, {cx, cy}, direction)));
-        m_at = {x, y};
-        return *this;
-    }
-    Builder& Add(const Item<T>& item) {
-        m_contour.Append(item);
-        return *this;
-    }
-    const tq2dContour<T>& Get() const { return m_contour; }
-
-private:
-    tqTPoint2d<T> m_at;
-    tq2dContour<T> m_contour;
-};
-using B = Builder<double>;
+using Builder = tqtest::BasicProfile<T>;
+using B = tqtest::Profile;
 
 // Every profile below whose largest coordinate is 10 has ε = 1e-8; those reaching 8 have 8e-9.
 const double kEps10 = 1e-8;
@@ -83,8 +53,8 @@ struct Role {
 
 const Role kRoles[] = {
     {"cutting", &kCutting, 2244, "Tool cutting part contour not valid", 2198, "Invalid radius in cutting part profile",
-     2206, "Cutting part profile must have only positive X values", 2202, "Cutting part profile must start at Y=0", 2200,
-     "Invalid height in cutting part profile"},
+     2206, "Cutting part profile must have only positive X values", 2202, "Cutting part profile must start at Y=0",
+     2200, "Invalid height in cutting part profile"},
     {"non-cutting", &kNonCutting, 2245, "Tool non cutting part contour not valid", 2199,
      "Invalid radius in non cutting part profile", 2207, "Non cutting part profile must have only positive X values",
      2203, "Non cutting part profile must start at Y=0", 2201, "Invalid height in non cutting part profile"},
@@ -95,11 +65,11 @@ const Role kRoles[] = {
      "Holder profile must have only positive X values", 2205, "Holder profile must start at Y=0", 2135,
      "Invalid height in holder profile"},
     {"part", &kPart, 2243, "Tool part contour not valid", 2340, "Invalid Radius in tool part profile", 2161,
-     "The tool part profile must have only positive X", 2160, "The tool part profile must start at Y less or equal to 0",
-     2144, "Invalid Height in profile"},
+     "The tool part profile must have only positive X", 2160,
+     "The tool part profile must start at Y less or equal to 0", 2144, "Invalid Height in profile"},
     {"plain", &kPlain, 2243, "Tool part contour not valid", 2143, "Invalid Radius in profile", 2161,
-     "The tool part profile must have only positive X", 2160, "The tool part profile must start at Y less or equal to 0",
-     2144, "Invalid Height in profile"},
+     "The tool part profile must have only positive X", 2160,
+     "The tool part profile must start at Y less or equal to 0", 2144, "Invalid Height in profile"},
 };
 
 const char* const kContinuity = "Tool part profile is not continuous";
@@ -121,28 +91,20 @@ const char* const kOrder = "Points must be in trigonometric order in tool part p
 
 }  // namespace
 
-TEST(TqProfileValidation, DefaultArborsAndHoldersPassEveryValidator) {
-    const B profiles[] = {B(0, 0).L(12, 0).L(17, 30).L(17, 45), B(0, 0).L(0.5, 0).L(0.7, 1.2).L(0.7, 1.75),
-                          B(0, 0).L(25, 0).L(25, 15).L(32, 15).L(32, 35).L(22, 70),
-                          B(0, 0).L(1, 0).L(1, 0.6).L(1.25, 0.6).L(1.25, 1.4).L(0.875, 2.75)};
-    for (const Role& role : kRoles)
-        for (const B& profile : profiles) {
-            SCOPED_TRACE(role.name);
-            EXPECT_NO_THROW(role.validator->Validate(profile.Get()));
-        }
-    EXPECT_NO_THROW(kArbor.Validate(tq2dContour<double>()));  // empty is valid
-}
-
-TEST(TqProfileValidation, ProfilesWithArcsPass) {
+TEST(TqProfileValidation, HeadsWithArcsPassEveryValidator) {
     const B profiles[] = {
-        B(0, 0).A(3, 3, 0, 3).L(3, 10),                         // ball end
-        B(0, 0).L(3, 0).A(5, 2, 3, 2).L(5, 10),                 // bull mill
-        B(0, 0).L(3, 0).A(5, 2, 5, 0, false).L(5, 10),          // concave corner rounding
-        B(0, 0).L(3, 0).A(5, 2, 3, 2).L(5, 8).A(3, 10, 3, 8),   // slot mill ending on its upper arc
-        B(2, 0).A(4, 2, 2, 2).L(4, 10),                         // tangent to the bottom closing segment
+        B(0, 0).A(3, 3, 0, 3).L(3, 10),                        // ball end
+        B(0, 0).L(3, 0).A(5, 2, 3, 2).L(5, 10),                // bull mill
+        B(0, 0).L(3, 0).A(5, 2, 5, 0, false).L(5, 10),         // concave corner rounding
+        B(0, 0).L(3, 0).A(5, 2, 3, 2).L(5, 8).A(3, 10, 3, 8),  // slot mill ending on its upper arc
+        B(2, 0).A(4, 2, 2, 2).L(4, 10),                        // tangent to the bottom closing segment
         B(0, 0).L(5e-8, 0).L(1e-7, 0).A(5, 5, 0, 5).L(5, 10),  // short flat items are fine
     };
-    for (const B& profile : profiles) EXPECT_NO_THROW(kCutting.Validate(profile.Get()));
+    for (const Role& role : kRoles) {
+        SCOPED_TRACE(role.name);
+        for (const B& profile : profiles) EXPECT_NO_THROW(role.validator->Validate(profile.Get()));
+        EXPECT_NO_THROW(role.validator->Validate(tq2dContour<double>()));  // empty is valid
+    }
     // Single precision takes the same profiles.
     EXPECT_NO_THROW(tqCuttingPartValidation<float>().Validate(Builder<float>(0, 0).A(3, 3, 0, 3).L(3, 10).Get()));
     EXPECT_NO_THROW(tqHolderValidation<float>().Validate(
@@ -151,9 +113,9 @@ TEST(TqProfileValidation, ProfilesWithArcsPass) {
 
 TEST(TqProfileValidation, ItemsMustBeFiniteLinesAndArcs) {
     const double nan = std::numeric_limits<double>::quiet_NaN(), inf = std::numeric_limits<double>::infinity();
-    const Item<double> nested = B(0, 0).L(1, 1).Get().Clone();
-    const B cases[] = {B(0, 0).L(5, 0).Add(Item<double>(new tq2dPoint<double>({5, 0}))).L(5, 10),
-                       B(0, 0).Add(nested).L(5, 10), B(0, 0).L(5, 0).L(nan, 10), B(0, 0).L(inf, 0)};
+    const Item nested = B(0, 0).L(1, 1).Get().Clone();
+    const B cases[] = {B(0, 0).L(5, 0).Add(Item(new tq2dPoint<double>({5, 0}))).L(5, 10), B(0, 0).Add(nested).L(5, 10),
+                       B(0, 0).L(5, 0).L(nan, 10), B(0, 0).L(inf, 0)};
     for (const Role& role : kRoles)
         for (const B& profile : cases) {
             SCOPED_TRACE(role.name);
@@ -200,25 +162,18 @@ TEST(TqProfileValidation, ContinuityAndSelfIntersection) {
     for (const Role& role : kRoles) {
         SCOPED_TRACE(role.name);
         // A gap between items.
-        B gapped(0, 0);
-        gapped.L(5, 0).Add(Item<double>(new tq2dLine<double>({5, 1.1 * kEps10}, {5, 10})));
-        EXPECT_RULE(role, gapped, 2323, kContinuity);
-        B joined(0, 0);
-        joined.L(5, 0).Add(Item<double>(new tq2dLine<double>({5, 0.9 * kEps10}, {5, 10})));
-        EXPECT_NO_THROW(role.validator->Validate(joined.Get()));
+        EXPECT_RULE(role, B(0, 0).L(5, 0).M(5, 1.1 * kEps10).L(5, 10), 2323, kContinuity);
+        EXPECT_NO_THROW(role.validator->Validate(B(0, 0).L(5, 0).M(5, 0.9 * kEps10).L(5, 10).Get()));
         // Items that are not neighbours: crossing, or closer than ε.
         EXPECT_RULE(role, B(0, 0).L(5, 0).L(5, 10).L(2, 5).L(8, 6), 2324, kSelfIntersection);
         EXPECT_RULE(role, notch(0.9 * kEps8), 2324, kSelfIntersection);
         EXPECT_NO_THROW(role.validator->Validate(notch(1.1 * kEps8).Get()));
         // Neighbours folding back onto each other, along a line and around a circle.
         EXPECT_RULE(role, B(0, 0).L(5, 0).L(5, 10).L(5, 4), 2324, kSelfIntersection);
-        B back(0, 0);
-        back.L(3, 0).A(5, 2, 3, 2).Add(Item<double>(new tq2dArc<double>({3, 2}, 2, 0, -45)));
-        EXPECT_RULE(role, back, 2324, kSelfIntersection);
+        EXPECT_RULE(role, B(0, 0).L(3, 0).A(5, 2, 3, 2).Add(Item(new tq2dArc<double>({3, 2}, 2, 0, -45))), 2324,
+                    kSelfIntersection);
         // Discontinuity is reported before a negative X.
-        B both(-1, 0);
-        both.L(5, 0).Add(Item<double>(new tq2dLine<double>({5, 1}, {5, 10})));
-        EXPECT_RULE(role, both, 2323, kContinuity);
+        EXPECT_RULE(role, B(-1, 0).L(5, 0).M(5, 1).L(5, 10), 2323, kContinuity);
     }
 }
 
