@@ -13,6 +13,7 @@
 #include "cadcam/tools/other/tqopticdiamondtool.h"
 #include "cadcam/tools/parts/tqcuttingpartdefinition.h"
 #include "cadcam/tools/solids/tqextrudedsoliddefinition.h"
+#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/turning/tqgrooveturningtool.h"
 
 namespace cadcam {
@@ -126,6 +127,17 @@ Polygon RegularPolygon(int sides, double ic) {
         polygon.emplace_back(circumradius * c, circumradius * s);
     }
     return polygon;
+}
+
+void CheckInscribedCorner(double cornerRadius, double ic) {
+    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
+    if (!(ic > 0)) throw tqcadcamException(2343);
+    if (!(cornerRadius < ic / 2)) throw tqcadcamException(2344);
+}
+
+tq2dContour<double> RegularInsertContour(int sides, double ic, double cornerRadius) {
+    return RoundedContour(RegularPolygon(sides, ic), std::vector<double>(static_cast<std::size_t>(sides), cornerRadius),
+                          true);
 }
 
 Polygon Rhombus(double ic, double formAngle) {

@@ -23,6 +23,11 @@ using Polygon = std::vector<Point>;
 /// A regular polygon of `sides` sides around the inscribed circle of diameter ic, centred on the origin, vertex 0
 /// straight below the centre.
 Polygon RegularPolygon(int sides, double ic);
+/// The checks that every insert sized by its inscribed circle shares, in their order: the corner radius is
+/// positive (2342), the circle is positive (2343) and the corner fits in it (2344).
+void CheckInscribedCorner(double cornerRadius, double ic);
+/// A regular insert: RegularPolygon with every corner rounded, the working corner's arc lowest at the origin.
+tq2dContour<double> RegularInsertContour(int sides, double ic, double cornerRadius);
 /// A rhombus with the inscribed circle of diameter ic and the acute angle formAngle at vertices 0 (the origin)
 /// and 2, its long diagonal on the v axis.
 Polygon Rhombus(double ic, double formAngle);

@@ -16,9 +16,7 @@ tqDiamondTurningTool::tqDiamondTurningTool(measures::tqUnitsFactory::Units units
       m_cornerRadius(cornerRadius),
       m_inscribedCircleDiameter(inscribedCircleDiameter),
       m_formAngle(formAngle) {
-    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
-    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
-    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    shape::CheckInscribedCorner(cornerRadius, inscribedCircleDiameter);
     if (!(formAngle > 0 && formAngle < 90)) throw tqcadcamException(2346);
     BuildCuttingPart(units);
 }

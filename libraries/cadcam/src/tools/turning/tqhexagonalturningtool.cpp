@@ -1,9 +1,6 @@
 // tqHexagonalTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqhexagonalturningtool.h"
 
-#include <vector>
-
-#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 #include "tools/shape/insertshapes.h"
 
@@ -15,9 +12,7 @@ tqHexagonalTurningTool::tqHexagonalTurningTool(measures::tqUnitsFactory::Units u
     : tqTypedExtrudedTool(units, arbor, holder, insertThickness),
       m_cornerRadius(cornerRadius),
       m_inscribedCircleDiameter(inscribedCircleDiameter) {
-    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
-    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
-    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    shape::CheckInscribedCorner(cornerRadius, inscribedCircleDiameter);
     BuildCuttingPart(units);
 }
 
@@ -37,8 +32,7 @@ void tqHexagonalTurningTool::Scale(measures::tqUnitsFactory::Units units, const 
 }
 
 tq2dContour<double> tqHexagonalTurningTool::MakeInsertContour() const {
-    return shape::RoundedContour(shape::RegularPolygon(6, m_inscribedCircleDiameter),
-                                 std::vector<double>(6, m_cornerRadius), true);
+    return shape::RegularInsertContour(6, m_inscribedCircleDiameter, m_cornerRadius);
 }
 
 }  // namespace cadcam

@@ -1,9 +1,6 @@
 // tqPentagonalTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqpentagonalturningtool.h"
 
-#include <vector>
-
-#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 #include "tools/shape/insertshapes.h"
 
@@ -15,9 +12,7 @@ tqPentagonalTurningTool::tqPentagonalTurningTool(measures::tqUnitsFactory::Units
     : tqTypedExtrudedTool(units, arbor, holder, insertThickness),
       m_cornerRadius(cornerRadius),
       m_inscribedCircleDiameter(inscribedCircleDiameter) {
-    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
-    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
-    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    shape::CheckInscribedCorner(cornerRadius, inscribedCircleDiameter);
     BuildCuttingPart(units);
 }
 
@@ -37,8 +32,7 @@ void tqPentagonalTurningTool::Scale(measures::tqUnitsFactory::Units units, const
 }
 
 tq2dContour<double> tqPentagonalTurningTool::MakeInsertContour() const {
-    return shape::RoundedContour(shape::RegularPolygon(5, m_inscribedCircleDiameter),
-                                 std::vector<double>(5, m_cornerRadius), true);
+    return shape::RegularInsertContour(5, m_inscribedCircleDiameter, m_cornerRadius);
 }
 
 }  // namespace cadcam

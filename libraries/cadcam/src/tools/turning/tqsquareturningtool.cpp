@@ -1,9 +1,6 @@
 // tqSquareTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqsquareturningtool.h"
 
-#include <vector>
-
-#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 #include "tools/shape/insertshapes.h"
 
@@ -15,9 +12,7 @@ tqSquareTurningTool::tqSquareTurningTool(measures::tqUnitsFactory::Units units, 
     : tqTypedExtrudedTool(units, arbor, holder, insertThickness),
       m_cornerRadius(cornerRadius),
       m_inscribedCircleDiameter(inscribedCircleDiameter) {
-    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
-    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
-    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    shape::CheckInscribedCorner(cornerRadius, inscribedCircleDiameter);
     BuildCuttingPart(units);
 }
 
@@ -37,8 +32,7 @@ void tqSquareTurningTool::Scale(measures::tqUnitsFactory::Units units, const dou
 }
 
 tq2dContour<double> tqSquareTurningTool::MakeInsertContour() const {
-    return shape::RoundedContour(shape::RegularPolygon(4, m_inscribedCircleDiameter),
-                                 std::vector<double>(4, m_cornerRadius), true);
+    return shape::RegularInsertContour(4, m_inscribedCircleDiameter, m_cornerRadius);
 }
 
 }  // namespace cadcam

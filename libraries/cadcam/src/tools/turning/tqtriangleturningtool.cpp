@@ -1,9 +1,6 @@
 // tqTriangleTurningTool: its parameters and their checks.
 #include "cadcam/tools/turning/tqtriangleturningtool.h"
 
-#include <vector>
-
-#include "cadcam/tools/tqcadcamexception.h"
 #include "cadcam/tools/tqtoolvisitor.h"
 #include "tools/shape/insertshapes.h"
 
@@ -15,9 +12,7 @@ tqTriangleTurningTool::tqTriangleTurningTool(measures::tqUnitsFactory::Units uni
     : tqTypedExtrudedTool(units, arbor, holder, insertThickness),
       m_cornerRadius(cornerRadius),
       m_inscribedCircleDiameter(inscribedCircleDiameter) {
-    if (!(cornerRadius > 0)) throw tqcadcamException(2342);
-    if (!(inscribedCircleDiameter > 0)) throw tqcadcamException(2343);
-    if (!(cornerRadius < inscribedCircleDiameter / 2)) throw tqcadcamException(2344);
+    shape::CheckInscribedCorner(cornerRadius, inscribedCircleDiameter);
     BuildCuttingPart(units);
 }
 
@@ -37,8 +32,7 @@ void tqTriangleTurningTool::Scale(measures::tqUnitsFactory::Units units, const d
 }
 
 tq2dContour<double> tqTriangleTurningTool::MakeInsertContour() const {
-    return shape::RoundedContour(shape::RegularPolygon(3, m_inscribedCircleDiameter),
-                                 std::vector<double>(3, m_cornerRadius), true);
+    return shape::RegularInsertContour(3, m_inscribedCircleDiameter, m_cornerRadius);
 }
 
 }  // namespace cadcam
